@@ -1,0 +1,144 @@
+#pragma once
+
+#include "procedure/waypoint_record.h"
+#include "toolkit/form.h"
+#include "toolkit/list_box.h"
+#include "toolkit/simple_controls.h"
+
+namespace tarvex {
+
+class Program;
+
+// The editing screen of all three kinds of procedure, for creating and for modifying. Its boxes are the
+// working copy of one waypoint; row i of the waypoint table and line i of WaypointList stand for the same
+// waypoint.
+class ModifyProcedure : public Form {
+  public:
+    explicit ModifyProcedure(Program& program);
+
+    // Name boxes and file name.
+    Label ActionLabel{*this, "ActionLabel", "", 43};
+    Label FilenameLabel{*this, "FilenameLabel", "Filename", 28};
+    Label FilenameText{*this, "FilenameText", "", 49};
+    Label ICAOLabel{*this, "ICAOLabel", "ICAO", 30};
+    TextBox AptNameText{*this, "AptNameText", 4, 0};
+    Label BasicNameLabel{*this, "BasicNameLabel", "Basic Name", 27};
+    TextBox BasicNameText{*this, "BasicNameText", 7, 1};
+    Label TransitionLabel1{*this, "TransitionLabel1", "Transition", 29};
+    TextBox TransitionText{*this, "TransitionText", 7, 2};
+    CheckBox RwySpecificCheck{*this, "RwySpecificCheck", "Runway Specific", 48};
+
+    // Boxes of one waypoint.
+    Label FixLabel{*this, "FixLabel", "Fix ID", 34};
+    TextBox FixNameText{*this, "FixNameText", 7, 3};
+    Label Label1{*this, "Label1", "Navaid ID", 35};
+    TextBox NAVIDText{*this, "NAVIDText", 4, 19};
+    Label Label2{*this, "Label2", "Navaid Freq", 36};
+    TextBox FreqText{*this, "FreqText", 6, 20};
+    Label DMLatLabel{*this, "DMLatLabel", "D     M   Latitude", 33};
+    TextBox DDMLatText{*this, "DDMLatText", 2, 4};
+    TextBox DMMLatText{*this, "DMMLatText", 9, 5};
+    Label DMLongLabel{*this, "DMLongLabel", " D      M  Longitude", 32};
+    TextBox DDMLongText{*this, "DDMLongText", 4, 6};
+    TextBox DMMLongText{*this, "DMMLongText", 9, 7};
+    Frame Frame1{*this, "Frame1", "", 24};
+    OptionButton NLatOption{Frame1, "NLatOption", "North Lat", 26};
+    OptionButton SLatOption{Frame1, "SLatOption", "South Lat", 25};
+    Frame Frame2{*this, "Frame2", "", 21};
+    OptionButton ELongOption{Frame2, "ELongOption", "East Long", 23};
+    OptionButton WLongOption{Frame2, "WLongOption", "West Long", 22};
+    Label Alt1Label{*this, "Alt1Label", "      Altitude", 31};
+    TextBox Alt1Text{*this, "Alt1Text", 5, 8};
+    Label Alt2Label{*this, "Alt2Label", " Upper      Altitude", 46};
+    TextBox Alt2Text{*this, "Alt2Text", 5, 10};
+    Label Label4{*this, "Label4", "   Airspeed", 47};
+    TextBox AirspeedText{*this, "AirspeedText", 3, 9};
+    Frame Frame4{*this, "Frame4", "Type of Restriction", 38};
+    OptionButton NoRestrictionOption{Frame4, "NoRestrictionOption", "No Restriction", 39};
+    OptionButton AtOption{Frame4, "AtOption", "At", 45};
+    OptionButton AtBelowOption{Frame4, "AtBelowOption", "At or Below", 40};
+    OptionButton AtAboveOption{Frame4, "AtAboveOption", "At or Above", 41};
+    OptionButton AtAboveAtBelowOption{Frame4, "AtAboveAtBelowOption", "At or Above & At or Below", 42};
+
+    // Commands and the list.
+    Label Label3{*this, "Label3", "Waypoint Options", 50};
+    Button AddWaypointCommand{*this, "AddWaypointCommand", "Add", 11};
+    Button ModifyWaypointCommand{*this, "ModifyWaypointCommand", "Modify", 15};
+    Button DeleteWaypointCommand{*this, "DeleteWaypointCommand", "Delete", 14};
+    Button AddArcCommand{*this, "AddArcCommand", "Add ARC", 55};
+    Button ClearDataCommand{*this, "ClearDataCommand", "   Clear All    Input Boxes", 44};
+    Button OopsCommand{*this, "OopsCommand", "No Changes Just Exit", 13};
+    Button SaveCommand{*this, "SaveCommand", "Save Procedure", 12};
+    Label Label6{*this, "Label6", "List of Waypoints", 37};
+    ListBox WaypointList{*this, "WaypointList", 16};
+    Button MoveUp{*this, "MoveUp", "Move Up", 17};
+    Button MoveDown{*this, "MoveDown", "Move Down", 18};
+    Button CreateWaypointCommand{*this, "CreateWaypointCommand", "", 58};
+    Label Label9{*this, "Label9", "Create Waypoint", 59};
+    Button FindNavCommand{*this, "FindNavCommand", "", 53};
+    Label Label7{*this, "Label7", "Find Navaid", 54};
+    Button FindFixCommand{*this, "FindFixCommand", "", 51};
+    Label Label5{*this, "Label5", "Find Fix", 52};
+    Button FindAirportCommand{*this, "FindAirportCommand", "", 56};
+    Label Label8{*this, "Label8", "Find Airport", 57};
+
+    // The latitude, and the longitude, boxes were left with an accepted text since the flag was last cleared.
+    Flag LatEdited = False;
+    Flag LongEdited = False;
+
+    // Opening and closing (modify_procedure.cpp).
+    void Form_Load() override;
+    void Form_Unload() override;
+    void OopsCommand_Click();
+    void ClearDataCommand_Click();
+
+    // Sets the caption of FilenameText from the name boxes (modify_procedure_save.cpp).
+    void BuildFilename();
+    void SaveCommand_Click();
+
+    // Rules of the boxes (modify_procedure_fields.cpp, modify_procedure_coordinates.cpp).
+    void FixNameText_lostfocus();
+    void NAVIDText_LostFocus();
+    void FreqText_LostFocus();
+    void Alt1Text_LostFocus();
+    void Alt2Text_LostFocus();
+    void AirspeedText_Change();
+    void DDMLatText_LostFocus();
+    void DMMLatText_LostFocus();
+    void DDMLongText_LostFocus();
+    void DMMLongText_LostFocus();
+    void NorestrictionOption_Click();
+    void AtOption_Click();
+    void AtBelowOption_Click();
+    void AtAboveOption_Click();
+    void AtAboveAtBelowOption_Click();
+    void RwySpecificCheck_Click();
+
+    // Rows (modify_procedure_rows.cpp, modify_procedure_select.cpp).
+    void WaypointList_Click();
+    void AddWaypointCommand_Click();
+    void ModifyWaypointCommand_Click();
+    void DeleteWaypointCommand_Click();
+    void MoveUp_Click();
+    void MoveDown_Click();
+
+    // Opening the tools (modify_procedure_tools.cpp).
+    void FindFixCommand_Click();
+    void FindNavCommand_Click();
+    void FindAirportCommand_Click();
+    void AddArcCommand_Click();
+    void CreateWaypointCommand_Click();
+
+  private:
+    // Connect the events of the controls with the operations; one for each source file.
+    void ConnectScreen();
+    void ConnectSave();
+    void ConnectFields();
+    void ConnectCoordinates();
+    void ConnectRows();
+    void ConnectTools();
+
+    Program& program_;
+};
+
+}  // namespace tarvex

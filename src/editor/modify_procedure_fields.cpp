@@ -1,0 +1,7 @@
+#include "editor/modify_procedure.h"
+
+namespace tarvex {
+
+void ModifyProcedure::ConnectFields() {}
+
+}  // namespace tarvex

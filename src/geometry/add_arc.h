@@ -1,0 +1,42 @@
+#pragma once
+
+#include "toolkit/form.h"
+#include "toolkit/simple_controls.h"
+
+namespace tarvex {
+
+class Program;
+
+// The ARC designer: lays out an arc around a centre as a chain of waypoints.
+class AddARC : public Form {
+  public:
+    explicit AddARC(Program& program);
+
+    Label Label1{*this, "Label1", "ARC Start"};
+    TextBox ArcStartText{*this, "ArcStartText", 3, 0};  // radial, degrees
+    Label Label2{*this, "Label2", "ARC End"};
+    TextBox ArcEndText{*this, "ArcEndText", 3, 1};
+    Label Label3{*this, "Label3", "ARC Radius"};
+    TextBox ArcRadiusText{*this, "ArcRadiusText", 2, 2};  // nautical miles
+    Frame Frame2{*this, "Frame2", "Magnetic Variation"};
+    TextBox MagVarText{*this, "MagVarText", 4, 3};  // degrees
+    OptionButton EastVarOption{Frame2, "EastVarOption", "East", 10};
+    OptionButton WestVarOption{Frame2, "WestVarOption", "West", 11};
+    Frame Frame1{*this, "Frame1", "Turn"};
+    OptionButton RightOption{Frame1, "RightOption", "Right", 5};
+    OptionButton LeftOption{Frame1, "LeftOption", "Left", 6};
+    Button Command1{*this, "Command1", "Select Navaid", 9};
+    Button LatLongCommand{*this, "LatLongCommand", "Use Lat/Lon", 12};
+    Label Label4{*this, "Label4", "ARC Label Will Be"};
+    TextBox ArcLabelText{*this, "ArcLabelText", TextBox::NoLimit, 4};
+    Button TransferCommand{*this, "TransferCommand", "Transfer Waypoint Data", 8};
+    Button ExitCommand{*this, "ExitCommand", "No ARC Just Exit", 7};
+
+    void Form_Load() override;
+    Button* WayOut() override { return &ExitCommand; }
+
+  private:
+    Program& program_;
+};
+
+}  // namespace tarvex

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "toolkit/form.h"
+#include "toolkit/simple_controls.h"
+
+namespace tarvex {
+
+class Program;
+
+// Takes the centre of an arc by hand.
+class LatLongForm : public Form {
+  public:
+    explicit LatLongForm(Program& program);
+
+    Label Label1{*this, "Label1", "D       M  Latitude"};
+    TextBox DLatCenterText{*this, "DLatCenterText", 2, 0};
+    TextBox MLatCenterText{*this, "MLatCenterText", 9, 3};
+    Label Label2{*this, "Label2", "D       M  Longitude"};
+    TextBox DLongCenterText{*this, "DLongCenterText", 3, 4};
+    TextBox MLongCenterText{*this, "MLongCenterText", 10, 5};
+    Frame Frame1{*this, "Frame1", ""};
+    OptionButton NorthOption{Frame1, "NorthOption", "North Lat", 6};
+    OptionButton SouthOption{Frame1, "SouthOption", "South Lat", 7};
+    Frame Frame2{*this, "Frame2", ""};
+    OptionButton EastOption{Frame2, "EastOption", "East Long", 8};
+    OptionButton WestOption{Frame2, "WestOption", "West Long", 9};
+    Button DoneCommand{*this, "DoneCommand", "Done", 1};
+    Button OopsCommand{*this, "OopsCommand", "  Oops   Exit Back", 2};
+
+    Button* WayOut() override { return &OopsCommand; }
+
+  private:
+    Program& program_;
+};
+
+}  // namespace tarvex

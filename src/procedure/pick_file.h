@@ -1,0 +1,31 @@
+#pragma once
+
+#include "toolkit/drive_lists.h"
+#include "toolkit/form.h"
+#include "toolkit/simple_controls.h"
+
+namespace tarvex {
+
+class Program;
+
+// The screen on which the user picks the stored procedure to modify.
+class PickFile : public Form {
+  public:
+    explicit PickFile(Program& program);
+
+    tarvex::FileList FileList;  // tab order 0
+    TextBox PickICAO{*this, "PickICAO", 4, 1};
+    Label Label1{*this, "Label1", "Type in ICAO    to search", 2};
+    Button DoneCommand{*this, "DoneCommand", " Oops!  Start Over", 3};
+
+    void Form_Load() override;
+    Button* WayOut() override { return &DoneCommand; }
+    void PickICAO_Change();
+    void FileList_Click();
+    void DoneCommand_Click();
+
+  private:
+    Program& program_;
+};
+
+}  // namespace tarvex

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "toolkit/drive_lists.h"
+#include "toolkit/form.h"
+#include "toolkit/simple_controls.h"
+
+namespace tarvex {
+
+class Program;
+
+// The screen that asks for the simulator folder.
+class FindFS2000Form : public Form {
+  public:
+    explicit FindFS2000Form(Program& program);
+
+    Frame Frame1{*this, "Frame1", "Find Flight Sim 2000"};
+    Label Label1{*this, "Label1", "I could not find your Flight Simulator 2000. "};
+    Label Label2{*this, "Label2", "Please locate the program.   Click Done after"};
+    Label Label3{*this, "Label3", "you've clicked on your Flight Sim 2000 folder."};
+    DriveList Drive1;
+    FolderList Dir1;
+    Label DataHintLabel{*this, "DataHintLabel", ""};  // whether the folder chosen holds the add-on's data
+    Button FindDoneCommand{*this, "FindDoneCommand", "Done", 2};
+
+    void Form_Load() override;
+    void Drive1_Change();
+    void Dir1_Change();
+    void Dir1_Click();
+    void FindDoneCommand_Click();
+
+  private:
+    Program& program_;
+};
+
+}  // namespace tarvex

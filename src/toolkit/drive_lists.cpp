@@ -1,0 +1,169 @@
+#include "toolkit/drive_lists.h"
+
+#include <algorithm>
+
+#include "toolkit/failure.h"
+
+namespace tarvex {
+
+namespace {
+
+// Lower case for finding names: the letters A to Z. All other bytes stand for themselves.
+char Folded(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+}
+
+bool FoldedLess(const std::string& a, const std::string& b) {
+    const auto less = [](char x, char y) {
+        return static_cast<unsigned char>(Folded(x)) < static_cast<unsigned char>(Folded(y));
+    };
+    if (std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), less)) return true;
+    if (std::lexicographical_compare(b.begin(), b.end(), a.begin(), a.end(), less)) return false;
+    return a < b;
+}
+
+bool BeginsFolded(std::string_view text, std::string_view beginning) {
+    return text.size() >= beginning.size() &&
+           std::equal(beginning.begin(), beginning.end(), text.begin(),
+                      [](char x, char y) { return Folded(x) == Folded(y); });
+}
+
+bool IsRoot(std::string_view path) {
+    return path == "\\" || (path.size() == 3 && path.substr(1) == ":\\");
+}
+
+std::string Joined(const std::string& folder, const std::string& name) {
+    return folder.empty() || folder.back() == '\\' ? folder + name : folder + "\\" + name;
+}
+
+// The folders above `path`, the nearest first.
+std::vector<std::string> FoldersAbove(std::string path) {
+    std::vector<std::string> above;
+    while (!IsRoot(path)) {
+        const auto cut = path.find_last_of('\\');
+        if (cut == std::string::npos) break;
+        path.resize(cut);
+        if (path.empty() || (path.size() == 2 && path[1] == ':')) path += '\\';
+        above.push_back(path);
+    }
+    return above;
+}
+
+}  // namespace
+
+DriveList::DriveList(Form& form, std::string_view name, int tabIndex, FileSystem& files)
+    : Control(form, name, tabIndex), drives_(files.Drives()) {
+    const std::string here = files.CurrentFolder();
+    // The longest that fits, so that a drive letter comes before a bare root.
+    for (const auto& drive : drives_) {
+        if (BeginsFolded(here, drive) && drive.size() > drive_.size()) drive_ = drive;
+    }
+    if (drive_.empty() && !drives_.empty()) drive_ = drives_.front();
+}
+
+void DriveList::SetDrive(std::string_view drive) {
+    const auto found = std::find_if(drives_.begin(), drives_.end(), [drive](const std::string& known) {
+        const bool lettered = known.size() > 1;
+        return lettered ? BeginsFolded(drive, known.substr(0, 2)) : drive.substr(0, 1) == known;
+    });
+    if (found == drives_.end()) throw Failure(PathNotFound, "no drive " + std::string(drive));
+    if (drive_ == *found) return;
+    drive_ = *found;
+    Changed();
+    Run(OnChange);
+}
+
+FolderList::FolderList(Form& form, std::string_view name, int tabIndex, FileSystem& files)
+    : Control(form, name, tabIndex), files_(files) {
+    path_ = files_.CurrentFolder();
+    above_ = FoldersAbove(path_);
+    try {
+        below_ = files_.Folders(path_);
+    } catch (const Failure&) {
+        // A current folder that can't be listed has nothing below it to choose.
+    }
+    std::sort(below_.begin(), below_.end(), FoldedLess);
+}
+
+void FolderList::SetPath(std::string_view path) {
+    std::string target(path);
+    if (target.size() == 2 && target[1] == ':') target += '\\';
+    if (IsRoot(target)) {
+        target = files_.FolderOfDrive(target);
+    } else if (target.size() > 1 && target.back() == '\\') {
+        target.pop_back();
+    }
+    auto below = files_.Folders(target);
+    std::sort(below.begin(), below.end(), FoldedLess);
+    const bool changed = path_ != target;
+    path_ = std::move(target);
+    above_ = FoldersAbove(path_);
+    below_ = std::move(below);
+    listIndex_ = OpenFolder;
+    Changed();
+    if (changed) Run(OnChange);
+}
+
+std::string FolderList::List(int index) const {
+    if (index < FirstIndex() || index >= ListCount())
+        throw Failure(BadArgument, Name() + " has no such line");
+    if (index == OpenFolder) return path_;
+    if (index < OpenFolder) return above_[static_cast<std::size_t>(OpenFolder - 1 - index)];
+    return Joined(path_, below_[static_cast<std::size_t>(index)]);
+}
+
+std::string FolderList::Name(int index) const {
+    const std::string path = List(index);
+    return IsRoot(path) ? path : path.substr(path.find_last_of('\\') + 1);
+}
+
+void FolderList::SetListIndex(int index) {
+    if (index < FirstIndex() || index >= ListCount())
+        throw Failure(BadArgument, Name() + " has no such line");
+    if (listIndex_ == index) return;
+    listIndex_ = index;
+    Changed();
+    Run(OnClick);
+}
+
+FileList::FileList(Form& form, std::string_view name, int tabIndex, FileSystem& files)
+    : Control(form, name, tabIndex), files_(files) {}
+
+void FileList::SetPath(std::string_view path) {
+    auto names = files_.Files(std::string(path));
+    std::sort(names.begin(), names.end(), FoldedLess);
+    path_ = path;
+    names_ = std::move(names);
+    Narrow();
+}
+
+void FileList::SetPattern(std::string_view pattern) {
+    pattern_ = pattern;
+    Narrow();
+}
+
+void FileList::Narrow() {
+    std::string_view beginning = pattern_;
+    if (!beginning.empty() && beginning.back() == '*') beginning.remove_suffix(1);
+    lines_.clear();
+    std::copy_if(names_.begin(), names_.end(), std::back_inserter(lines_),
+                 [beginning](const std::string& name) { return BeginsFolded(name, beginning); });
+    listIndex_ = -1;
+    Changed();
+}
+
+void FileList::SetListIndex(int index) {
+    if (index < -1 || index >= static_cast<int>(lines_.size())) {
+        throw Failure(BadArgument, Name() + " has no such line");
+    }
+    if (listIndex_ == index) return;
+    listIndex_ = index;
+    Changed();
+    if (listIndex_ >= 0) Run(OnClick);
+}
+
+std::string FileList::FileName() const {
+    return listIndex_ < 0 ? std::string() : lines_[static_cast<std::size_t>(listIndex_)];
+}
+
+}  // namespace tarvex

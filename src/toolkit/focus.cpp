@@ -1,0 +1,61 @@
+#include "toolkit/focus.h"
+
+#include <utility>
+
+#include "toolkit/control.h"
+#include "toolkit/form.h"
+#include "toolkit/form_host.h"
+
+namespace tarvex {
+
+bool Focus::Give(Control& target) {
+    if (!target.CanTakeFocus() || !host_.IsLoaded(target.Owner())) return false;
+    if (leaving_) {
+        redirected_ = true;
+        if (&target != current_) Set(&target);
+        return true;
+    }
+    if (&target == current_) return true;
+
+    if (current_ != nullptr && current_->OnLostFocus) {
+        leaving_ = true;
+        redirected_ = false;
+        // Held by value: the rule may end its own form.
+        const auto rule = current_->OnLostFocus;
+        try {
+            rule();
+        } catch (...) {
+            leaving_ = false;
+            throw;
+        }
+        leaving_ = false;
+        if (std::exchange(redirected_, false)) return false;
+        if (!host_.IsLoaded(target.Owner()) || !target.CanTakeFocus()) return false;
+    }
+    Set(&target);
+    return true;
+}
+
+bool Focus::Activate(Form& form) {
+    Control* target = form.lastFocus_;
+    if (target == nullptr || !target->CanTakeFocus()) target = form.NextTabStop(nullptr, true);
+    if (target != nullptr) return Give(*target);
+    Set(nullptr);
+    return true;
+}
+
+void Focus::DropUnusable() {
+    if (current_ != nullptr && !current_->CanTakeFocus()) Set(nullptr);
+}
+
+void Focus::FormGone(const Form& form) {
+    if (current_ != nullptr && &current_->Owner() == &form) Set(nullptr);
+}
+
+void Focus::Set(Control* control) {
+    current_ = control;
+    if (control != nullptr) control->Owner().lastFocus_ = control;
+    host_.Notify().FocusMoved(control);
+}
+
+}  // namespace tarvex

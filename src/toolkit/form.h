@@ -1,0 +1,64 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "toolkit/control.h"
+
+namespace tarvex {
+
+class Button;
+class FormHost;
+
+// A screen: a logic class over named controls. It exists while it is loaded; see FormSlot for its life.
+class Form {
+  public:
+    Form(FormHost& host, std::string_view name, std::string_view caption);
+    virtual ~Form() = default;
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+
+    FormHost& Host() const { return host_; }
+    const std::string& Name() const { return name_; }
+    const std::string& Caption() const { return caption_; }
+    void SetCaption(std::string_view caption);
+    bool Visible() const { return visible_; }
+
+    // In the order of their making.
+    const std::vector<Control*>& Controls() const { return controls_; }
+    // The control of that name; null for none.
+    Control* Find(std::string_view name) const;
+    // The usable tab stops by tab index.
+    std::vector<Control*> TabStops() const;
+    // Where the Tab key leads from `from` (null: the first): the next tab stop, or the one before; null
+    // without any.
+    Control* NextTabStop(const Control* from, bool forward) const;
+
+    // The button that Escape presses; null for none.
+    virtual Button* WayOut() { return nullptr; }
+
+    // Called after every change of the caption; for the native window.
+    void Observe(std::function<void()> observer) { observer_ = std::move(observer); }
+
+    virtual void Form_Load() {}
+    virtual void Form_Unload() {}
+
+  private:
+    friend class Control;
+    friend class Focus;
+    friend class FormSlotBase;
+
+    void Add(Control& control) { controls_.push_back(&control); }
+
+    FormHost& host_;
+    std::string name_;
+    std::string caption_;
+    bool visible_ = false;
+    std::vector<Control*> controls_;
+    Control* lastFocus_ = nullptr;  // the control that had the focus last on this form
+    std::function<void()> observer_;
+};
+
+}  // namespace tarvex

@@ -1,0 +1,109 @@
+#include "toolkit/form_host.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tarvex {
+
+bool FormHost::IsLoaded(const Form& form) const {
+    return std::any_of(slots_.begin(), slots_.end(),
+                       [&form](const FormSlotBase* slot) { return slot->Loaded() == &form; });
+}
+
+void FormHost::RunEvent(const std::function<void()>& event) {
+    if (stopped_) return;
+    if (eventDepth_ > 0) {
+        event();
+        return;
+    }
+    ++eventDepth_;
+    try {
+        try {
+            event();
+        } catch (const Failure& failure) {
+            if (report_) report_(failure);
+        }
+    } catch (const ProgramStopped& stop) {
+        stopped_ = stop;
+    }
+    --eventDepth_;
+    graveyard_.clear();
+}
+
+void FormHost::Raised(Form& form) {
+    std::erase(visible_, &form);
+    visible_.push_back(&form);
+}
+
+void FormHost::BringToFront(Form& form) {
+    Raised(form);
+    Notify().FormShown(form);
+    focus_.Activate(form);
+}
+
+void FormHost::TakeOffScreen(Form& form) {
+    if (std::erase(visible_, &form) == 0) return;
+    const bool hadFocus = focus_.Current() == nullptr || &focus_.Current()->Owner() == &form;
+    focus_.FormGone(form);
+    if (hadFocus && !visible_.empty()) focus_.Activate(*visible_.back());
+}
+
+void FormHost::Bury(std::unique_ptr<Form> form) {
+    if (eventDepth_ > 0) graveyard_.push_back(std::move(form));
+}
+
+FormSlotBase::FormSlotBase(FormHost& host) : host_(host) {
+    host.slots_.push_back(this);
+}
+
+void FormSlotBase::Show() {
+    if (loading_) {
+        hiddenInLoad_ = false;
+        return;
+    }
+    if (form_ == nullptr) {
+        form_ = Make();
+        const Form* made = form_.get();
+        loading_ = true;
+        hiddenInLoad_ = false;
+        try {
+            form_->Form_Load();
+        } catch (...) {
+            loading_ = false;
+            if (form_.get() == made) host_.Bury(std::move(form_));
+            throw;
+        }
+        loading_ = false;
+        if (form_.get() != made || hiddenInLoad_) return;
+    }
+    form_->visible_ = true;
+    host_.BringToFront(*form_);
+}
+
+void FormSlotBase::Hide() {
+    if (form_ == nullptr) return;
+    if (loading_) hiddenInLoad_ = true;
+    if (!form_->visible_) return;
+    form_->visible_ = false;
+    host_.Notify().FormHidden(*form_);
+    host_.TakeOffScreen(*form_);
+}
+
+void FormSlotBase::Unload() {
+    if (form_ == nullptr || unloading_) return;
+    unloading_ = true;
+    try {
+        form_->Form_Unload();
+    } catch (...) {
+        unloading_ = false;
+        throw;
+    }
+    unloading_ = false;
+    auto form = std::move(form_);
+    form->visible_ = false;
+    host_.Notify().FormUnloaded(*form);
+    host_.TakeOffScreen(*form);
+    host_.Bury(std::move(form));
+}
+
+}  // namespace tarvex

@@ -1,0 +1,51 @@
+#include "toolkit/list_box.h"
+
+#include "toolkit/failure.h"
+
+namespace tarvex {
+
+void ListBox::SetListIndex(int index) {
+    if (index < NoSelection || index >= ListCount()) throw Failure(BadArgument, Name() + " has no such line");
+    if (listIndex_ == index) return;
+    listIndex_ = index;
+    Changed();
+    Run(OnClick);
+}
+
+std::string ListBox::Text() const {
+    return listIndex_ == NoSelection ? std::string() : List(listIndex_);
+}
+
+void ListBox::AddItem(std::string_view text) {
+    AddItem(text, ListCount());
+}
+
+void ListBox::AddItem(std::string_view text, int index) {
+    if (index < 0 || index > ListCount()) throw Failure(BadArgument, Name() + " has no such line");
+    lines_.emplace(lines_.begin() + index, text);
+    if (listIndex_ >= index) ++listIndex_;
+    Changed();
+}
+
+void ListBox::RemoveItem(int index) {
+    if (index < 0 || index >= ListCount()) throw Failure(BadArgument, Name() + " has no such line");
+    lines_.erase(lines_.begin() + index);
+    if (listIndex_ == index) {
+        listIndex_ = NoSelection;
+    } else if (listIndex_ > index) {
+        --listIndex_;
+    }
+    Changed();
+}
+
+void ListBox::Clear() {
+    SetLines({});
+}
+
+void ListBox::SetLines(std::vector<std::string> lines) {
+    lines_ = std::move(lines);
+    listIndex_ = NoSelection;
+    Changed();
+}
+
+}  // namespace tarvex

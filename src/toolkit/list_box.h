@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "toolkit/control.h"
+
+namespace tarvex {
+
+// A list of lines of which at most one is selected. Line indexes count from 0.
+class ListBox : public Control {
+  public:
+    static constexpr int NoSelection = -1;
+
+    ListBox(Form& form, std::string_view name, int tabIndex) : Control(form, name, tabIndex) {}
+
+    int ListCount() const { return static_cast<int>(lines_.size()); }
+    const std::string& List(int index) const { return lines_.at(static_cast<std::size_t>(index)); }
+    const std::vector<std::string>& Lines() const { return lines_; }
+
+    int ListIndex() const { return listIndex_; }
+    // NoSelection ends the selection. Runs OnClick when the selection changes.
+    void SetListIndex(int index);
+    // The text of the selected line; empty without a selection.
+    std::string Text() const;
+
+    void AddItem(std::string_view text);
+    // Inserts in front of line `index`. The selected line stays selected wherever it comes to stand.
+    void AddItem(std::string_view text, int index);
+    // Ends the selection, without OnClick, when the line is the selected one.
+    void RemoveItem(int index);
+    // Ends the selection too, without OnClick.
+    void Clear();
+    // Replaces all lines, and ends the selection without OnClick.
+    void SetLines(std::vector<std::string> lines);
+
+    bool TakesFocus() const override { return true; }
+
+    std::function<void()> OnClick;
+
+  private:
+    std::vector<std::string> lines_;
+    int listIndex_ = NoSelection;
+};
+
+}  // namespace tarvex

@@ -1,0 +1,90 @@
+#include "toolkit/simple_controls.h"
+
+#include <algorithm>
+
+#include "toolkit/form.h"
+
+namespace tarvex {
+
+void CaptionedControl::SetCaption(std::string_view caption) {
+    if (caption_ == caption) return;
+    caption_ = caption;
+    Changed();
+}
+
+void Label::SetForeColor(Colour colour) {
+    if (foreColor_ == colour) return;
+    foreColor_ = colour;
+    Changed();
+}
+
+void Frame::SetPlace(int top, int height) {
+    top_ = top;
+    height_ = height;
+    Changed();
+}
+
+void TextBox::SetText(std::string_view text) {
+    if (text_ == text) return;
+    text_ = text;
+    Changed();
+    Run(OnChange);
+}
+
+void TextBox::SetLocked(bool locked) {
+    if (locked_ == locked) return;
+    locked_ = locked;
+    Changed();
+}
+
+void TextBox::SetBackColor(Colour colour) {
+    if (backColor_ == colour) return;
+    backColor_ = colour;
+    Changed();
+}
+
+OptionButton::OptionButton(Frame& group, std::string_view name, std::string_view caption, int tabIndex)
+    : CaptionedControl(group.Owner(), name, caption, tabIndex) {
+    PutInto(group);
+}
+
+namespace {
+
+// The options that exclude `option`, itself included.
+std::vector<OptionButton*> GroupOf(const OptionButton& option) {
+    std::vector<OptionButton*> group;
+    for (Control* control : option.Owner().Controls()) {
+        auto* other = dynamic_cast<OptionButton*>(control);
+        if (other != nullptr && other->Container() == option.Container()) group.push_back(other);
+    }
+    return group;
+}
+
+}  // namespace
+
+void OptionButton::Select() {
+    if (value_) return;
+    for (OptionButton* other : GroupOf(*this)) {
+        if (!other->value_) continue;
+        other->value_ = false;
+        other->Changed();
+    }
+    value_ = true;
+    Changed();
+    Run(OnClick);
+}
+
+bool OptionButton::IsTabStop() const {
+    if (value_) return true;
+    const auto group = GroupOf(*this);
+    return std::none_of(group.begin(), group.end(), [](const OptionButton* other) { return other->value_; });
+}
+
+void CheckBox::SetValue(int value) {
+    if (value_ == value) return;
+    value_ = value;
+    Changed();
+    Run(OnClick);
+}
+
+}  // namespace tarvex

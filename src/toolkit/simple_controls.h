@@ -1,0 +1,118 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "toolkit/control.h"
+
+namespace tarvex {
+
+// A control with a caption. Captions are literal: an ampersand is an ampersand.
+class CaptionedControl : public Control {
+  public:
+    CaptionedControl(Form& form, std::string_view name, std::string_view caption, int tabIndex = NoTabIndex)
+        : Control(form, name, tabIndex), caption_(caption) {}
+
+    const std::string& Caption() const { return caption_; }
+    void SetCaption(std::string_view caption);
+
+  private:
+    std::string caption_;
+};
+
+class Label : public CaptionedControl {
+  public:
+    using CaptionedControl::CaptionedControl;
+
+    Colour ForeColor() const { return foreColor_; }
+    void SetForeColor(Colour colour);
+
+  private:
+    Colour foreColor_ = Black;
+};
+
+// Groups controls; option buttons in one frame exclude each other. Top and Height are in twips.
+class Frame : public CaptionedControl {
+  public:
+    using CaptionedControl::CaptionedControl;
+
+    int Top() const { return top_; }
+    int Height() const { return height_; }
+    void SetPlace(int top, int height);
+
+  private:
+    int top_ = 0;
+    int height_ = 0;
+};
+
+class TextBox : public Control {
+  public:
+    static constexpr int NoLimit = 0;
+
+    // `maxLength` is the most characters that the user can type; texts that an operation assigns are not cut.
+    TextBox(Form& form, std::string_view name, int maxLength, int tabIndex)
+        : Control(form, name, tabIndex), maxLength_(maxLength) {}
+
+    const std::string& Text() const { return text_; }
+    void SetText(std::string_view text);  // runs OnChange when the text changes
+    int MaxLength() const { return maxLength_; }
+    bool Locked() const { return locked_; }  // shown as usable, but takes no typing
+    void SetLocked(bool locked);
+    Colour BackColor() const { return backColor_; }
+    void SetBackColor(Colour colour);
+    bool TakesFocus() const override { return true; }
+
+    std::function<void()> OnChange;
+
+  private:
+    std::string text_;
+    int maxLength_;
+    bool locked_ = false;
+    Colour backColor_ = White;
+};
+
+class Button : public CaptionedControl {
+  public:
+    using CaptionedControl::CaptionedControl;
+    bool TakesFocus() const override { return true; }
+
+    std::function<void()> OnClick;
+};
+
+// One of several in a frame, of which at most one is selected.
+class OptionButton : public CaptionedControl {
+  public:
+    OptionButton(Frame& group, std::string_view name, std::string_view caption, int tabIndex);
+
+    bool Value() const { return value_; }
+    // Selects this option and deselects the others of its frame. Runs OnClick when it was not selected
+    // before.
+    void Select();
+    // The initial state of a form: selected, without any rule.
+    void SelectAtFirst() { value_ = true; }
+
+    bool TakesFocus() const override { return true; }
+    // The selected option of a frame is its tab stop; without a selection each option is one.
+    bool IsTabStop() const override;
+
+    std::function<void()> OnClick;
+
+  private:
+    bool value_ = false;
+};
+
+class CheckBox : public CaptionedControl {
+  public:
+    using CaptionedControl::CaptionedControl;
+
+    int Value() const { return value_; }  // 0 unchecked, 1 checked
+    void SetValue(int value);             // runs OnClick when the value changes
+    bool TakesFocus() const override { return true; }
+
+    std::function<void()> OnClick;
+
+  private:
+    int value_ = 0;
+};
+
+}  // namespace tarvex

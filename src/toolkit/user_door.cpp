@@ -1,0 +1,128 @@
+#include "toolkit/user_door.h"
+
+#include <algorithm>
+
+namespace tarvex {
+
+namespace {
+
+bool OnScreen(FormHost& host, const Form& form) {
+    const auto& visible = host.Visible();
+    return std::find(visible.begin(), visible.end(), &form) != visible.end();
+}
+
+// `typed` with what it puts in beyond `before` cut so that it stays within `limit` characters.
+std::string WithinLimit(std::string_view before, std::string_view typed, std::size_t limit) {
+    if (limit == TextBox::NoLimit || typed.size() <= limit || typed.size() < before.size()) {
+        return std::string(typed);
+    }
+    const std::size_t common = std::min(before.size(), typed.size());
+    std::size_t head = 0;
+    while (head < common && before[head] == typed[head]) ++head;
+    std::size_t tail = 0;
+    while (tail < common - head && before[before.size() - 1 - tail] == typed[typed.size() - 1 - tail]) ++tail;
+    const std::size_t kept = head + tail;
+    const std::size_t room = limit > kept ? limit - kept : 0;
+    const std::size_t put = std::min(room, typed.size() - kept);
+    if (put == 0 && before.size() > kept)
+        return std::string(before);  // an exchange that has no room changes nothing
+    return std::string(typed.substr(0, head + put)) + std::string(typed.substr(typed.size() - tail));
+}
+
+}  // namespace
+
+bool UserDoor::Act(Control& control, const std::function<void()>& act) {
+    bool acted = false;
+    host_.RunEvent([&] {
+        if (!OnScreen(host_, control.Owner()) || !control.CanTakeFocus()) return;
+        if (!host_.GetFocus().Give(control)) return;
+        // The leaving rule may have changed what can be used.
+        if (!OnScreen(host_, control.Owner()) || !control.CanTakeFocus()) return;
+        acted = true;
+        act();
+    });
+    return acted;
+}
+
+bool UserDoor::Type(TextBox& box, std::string_view text) {
+    bool taken = false;
+    const bool acted = Act(box, [&] {
+        if (box.Locked()) return;
+        taken = true;
+        box.SetText(WithinLimit(box.Text(), text, static_cast<std::size_t>(box.MaxLength())));
+    });
+    return acted && taken;
+}
+
+bool UserDoor::Press(Button& button) {
+    return Act(button, [&] {
+        if (button.OnClick) button.OnClick();
+    });
+}
+
+bool UserDoor::Pick(OptionButton& option) {
+    return Act(option, [&] { option.Select(); });
+}
+
+bool UserDoor::Toggle(CheckBox& check) {
+    return Act(check, [&] { check.SetValue(check.Value() == 1 ? 0 : 1); });
+}
+
+bool UserDoor::PickLine(ListBox& list, int index) {
+    return Act(list, [&] { list.SetListIndex(index); });
+}
+
+bool UserDoor::PickDrive(DriveList& list, std::string_view drive) {
+    return Act(list, [&] { list.SetDrive(drive); });
+}
+
+bool UserDoor::PickFolder(FolderList& list, int index) {
+    return Act(list, [&] { list.SetListIndex(index); });
+}
+
+bool UserDoor::OpenFolder(FolderList& list, int index) {
+    return Act(list, [&] { list.SetPath(list.List(index)); });
+}
+
+bool UserDoor::PickFile(FileList& list, int index) {
+    return Act(list, [&] { list.SetListIndex(index); });
+}
+
+bool UserDoor::MoveFocus(Control& control) {
+    return Act(control, [] {});
+}
+
+bool UserDoor::Tab(Form& form, bool forward) {
+    Control* here = host_.GetFocus().Current();
+    if (here != nullptr && &here->Owner() != &form) here = nullptr;
+    Control* next = form.NextTabStop(here, forward);
+    return next != nullptr && MoveFocus(*next);
+}
+
+bool UserDoor::Escape(Form& form) {
+    Button* wayOut = form.WayOut();
+    return wayOut != nullptr && Press(*wayOut);
+}
+
+bool UserDoor::Activate(Form& form) {
+    bool moved = false;
+    host_.RunEvent([&] {
+        if (!OnScreen(host_, form)) return;
+        host_.Raised(form);
+        Control* current = host_.GetFocus().Current();
+        if (current != nullptr && &current->Owner() == &form) {
+            moved = true;
+        } else {
+            moved = host_.GetFocus().Activate(form);
+        }
+    });
+    return moved;
+}
+
+bool UserDoor::CloseWindow(FormSlotBase& slot) {
+    if (!slot.IsLoaded() || host_.Stopped()) return false;
+    host_.RunEvent([&] { slot.Unload(); });
+    return true;
+}
+
+}  // namespace tarvex

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+#include "toolkit/drive_lists.h"
+#include "toolkit/form_host.h"
+#include "toolkit/list_box.h"
+#include "toolkit/simple_controls.h"
+
+namespace tarvex {
+
+// The one way in for what the user does, the same for native windows and for tests. It holds the order of
+// events: an act on a control first moves the focus to it; if the leaving rule of the control that had the
+// focus gave the focus elsewhere, the act ends there. A control that is disabled, hidden, out of sight with
+// its form, or of a form that has gone takes no act. Every call is one whole event and tells whether the act
+// took place.
+class UserDoor {
+  public:
+    explicit UserDoor(FormHost& host) : host_(host) {}
+
+    // The user changed the text of the box to `text`. What was put in is cut where the text would pass the
+    // box's limit; taking away is always free, also in a text longer than the limit.
+    bool Type(TextBox& box, std::string_view text);
+    bool Press(Button& button);
+    bool Pick(OptionButton& option);
+    bool Toggle(CheckBox& check);
+    bool PickLine(ListBox& list, int index);
+    bool PickDrive(DriveList& list, std::string_view drive);
+    bool PickFolder(FolderList& list, int index);  // one click: choose it
+    bool OpenFolder(FolderList& list, int index);  // double click: walk into it
+    bool PickFile(FileList& list, int index);
+
+    bool MoveFocus(Control& control);
+    bool Tab(Form& form, bool forward);  // the Tab key in a form
+    bool Escape(Form& form);             // presses the form's way out
+    bool Activate(Form& form);           // the form's window was brought to the front
+    // Closes the form's window.
+    bool CloseWindow(FormSlotBase& slot);
+
+  private:
+    bool Act(Control& control, const std::function<void()>& act);
+
+    FormHost& host_;
+};
+
+}  // namespace tarvex

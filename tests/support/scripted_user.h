@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "startup/program.h"
+
+namespace tarvex::testing {
+
+// A user who works through the door: types character by character, presses, picks.
+class ScriptedUser {
+  public:
+    explicit ScriptedUser(Program& program) : program_(program), door_(program.door) {}
+
+    // Empties the box, if it holds anything, and types the text one character at a time. False when the box
+    // took no typing.
+    bool Types(TextBox& box, std::string_view text);
+    bool Presses(Button& button) { return door_.Press(button); }
+    bool Picks(OptionButton& option) { return door_.Pick(option); }
+    bool Toggles(CheckBox& check) { return door_.Toggle(check); }
+    bool PicksLine(ListBox& list, int index) { return door_.PickLine(list, index); }
+    bool MovesTo(Control& control) { return door_.MoveFocus(control); }
+    bool Tabs(Form& form) { return door_.Tab(form, true); }
+    // Clicks the name in the picker. False when it isn't listed.
+    bool PicksFile(FileList& list, std::string_view name);
+
+    Control* Focused() { return program_.host.GetFocus().Current(); }
+    // The name of the control with the focus; empty without one.
+    std::string FocusName() { return Focused() == nullptr ? std::string() : Focused()->Name(); }
+
+  private:
+    Program& program_;
+    UserDoor& door_;
+};
+
+}  // namespace tarvex::testing

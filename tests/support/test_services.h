@@ -1,0 +1,100 @@
+#pragma once
+
+#include <deque>
+#include <gtest/gtest.h>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "startup/program.h"
+#include "support/memory_file_system.h"
+
+namespace tarvex::testing {
+
+// Answers message boxes by a script, in order, and keeps what was shown. Without a script left it answers
+// with the message's own default button.
+class ScriptedMessageBox : public MessageBox {
+  public:
+    void Answer(MessageAnswer answer) { answers_.push_back(answer); }
+    const std::vector<Message>& Shown() const { return shown_; }
+    // The messages shown since the last call.
+    std::vector<Message> Take() { return std::exchange(shown_, {}); }
+
+    MessageAnswer Show(const Message& message) override {
+        shown_.push_back(message);
+        if (answers_.empty()) return message.defaultAnswer;
+        const MessageAnswer answer = answers_.front();
+        answers_.pop_front();
+        return answer;
+    }
+
+  private:
+    std::deque<MessageAnswer> answers_;
+    std::vector<Message> shown_;
+};
+
+// A registry of string values by full key path; root and value name are looked at, access is not.
+class FakeRegistry : public Registry {
+  public:
+    // The raw bytes of the value, closing zero included where it has one.
+    void Put(std::uint32_t root, const std::string& path, const std::string& name, std::string bytes) {
+        values_[{root, path}][name] = std::move(bytes);
+    }
+    int OpenKeys() const { return openKeys_; }
+
+    bool OpenKey(std::uint32_t root, const std::string& path, std::uint32_t, Key& key) override {
+        const auto found = values_.find({root, path});
+        if (found == values_.end()) return false;
+        key = reinterpret_cast<Key>(&found->second);
+        ++openKeys_;
+        return true;
+    }
+    bool QueryValue(Key key, const std::string& name, char* buffer, std::uint32_t& size) override {
+        const auto& values = *reinterpret_cast<const std::map<std::string, std::string>*>(key);
+        const auto found = values.find(name);
+        if (found == values.end()) return false;
+        const auto needed = static_cast<std::uint32_t>(found->second.size());
+        if (buffer != nullptr) {
+            if (size < needed) return false;
+            std::copy(found->second.begin(), found->second.end(), buffer);
+        }
+        size = needed;
+        return true;
+    }
+    void CloseKey(Key) override { --openKeys_; }
+
+  private:
+    std::map<std::pair<std::uint32_t, std::string>, std::map<std::string, std::string>> values_;
+    int openKeys_ = 0;
+};
+
+class FixedClock : public Clock {
+  public:
+    std::string ShortDate() override { return "5/14/2001"; }
+};
+
+// The services of a machine of which everything is in memory. The program lies in C:\Tarvex, the simulator in
+// C:\FS2000.
+struct TestServices {
+    MemoryFileSystem files;
+    FakeRegistry registry;
+    FixedClock clock;
+    ScriptedMessageBox messages;
+
+    TestServices() { files.PutFolder("C:\\Tarvex"); }
+
+    Platform ForProgram() { return {files, registry, clock, messages, "C:\\Tarvex"}; }
+
+    // The settings file, the simulator's folders and empty navigation files.
+    void PutSimulator() {
+        files.Put("C:\\Tarvex\\Tarvex.INI", "C:\\FS2000\r\nN\r\nW\r\nW\r\n");
+        for (const char* name : {"wpNavFIX.txt", "wpNavAID.txt", "wpNavAPT.txt"}) {
+            files.Put(std::string("C:\\FS2000\\GIOSTAM\\navdata\\") + name, "");
+        }
+        for (const char* folder : {"Sids", "Stars", "Approaches"}) {
+            files.PutFolder(std::string("C:\\FS2000\\Giostam\\navdata\\") + folder);
+        }
+    }
+};
+
+}  // namespace tarvex::testing
