@@ -86,6 +86,13 @@ class ModifyProcedure : public Form {
     Flag LatEdited = False;
     Flag LongEdited = False;
 
+    std::vector<Shortcut> Shortcuts() override {
+        return {{ShortcutKey::Delete, &WaypointList, &DeleteWaypointCommand},
+                {ShortcutKey::CtrlUp, &WaypointList, &MoveUp},
+                {ShortcutKey::CtrlDown, &WaypointList, &MoveDown},
+                {ShortcutKey::CtrlS, nullptr, &SaveCommand}};
+    }
+
     // Opening and closing (modify_procedure.cpp).
     void Form_Load() override;
     void Form_Unload() override;

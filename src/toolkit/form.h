@@ -12,6 +12,15 @@ namespace tarvex {
 class Button;
 class FormHost;
 
+enum class ShortcutKey { Delete, CtrlUp, CtrlDown, CtrlS };
+
+// A key of a form that presses a button of it.
+struct Shortcut {
+    ShortcutKey key;
+    const Control* where;  // the control that must have the focus; null for any of the form
+    Button* button;
+};
+
 // A screen: a logic class over named controls. It exists while it is loaded; see FormSlot for its life.
 class Form {
   public:
@@ -38,6 +47,7 @@ class Form {
 
     // The button that Escape presses; null for none.
     virtual Button* WayOut() { return nullptr; }
+    virtual std::vector<Shortcut> Shortcuts() { return {}; }
 
     // Called after every change of the caption; for the native window.
     void Observe(std::function<void()> observer) { observer_ = std::move(observer); }

@@ -104,6 +104,20 @@ bool UserDoor::Escape(Form& form) {
     return wayOut != nullptr && Press(*wayOut);
 }
 
+bool UserDoor::Key(Form& form, ShortcutKey key) {
+    Control* before = host_.GetFocus().Current();
+    const auto shortcuts = form.Shortcuts();
+    const auto found = std::find_if(shortcuts.begin(), shortcuts.end(), [&](const Shortcut& shortcut) {
+        return shortcut.key == key && (shortcut.where == nullptr || shortcut.where == before);
+    });
+    if (found == shortcuts.end()) return false;
+    host_.RunEvent([&] {
+        if (!Press(*found->button) || !OnScreen(host_, form)) return;
+        if (found->button->HasFocus() && before != nullptr && &before->Owner() == &form) before->SetFocus();
+    });
+    return true;
+}
+
 bool UserDoor::Activate(Form& form) {
     bool moved = false;
     host_.RunEvent([&] {

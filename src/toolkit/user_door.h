@@ -34,7 +34,11 @@ class UserDoor {
     bool MoveFocus(Control& control);
     bool Tab(Form& form, bool forward);  // the Tab key in a form
     bool Escape(Form& form);             // presses the form's way out
-    bool Activate(Form& form);           // the form's window was brought to the front
+    // A key pressed in a form: presses the button of its shortcut. Unless the press moved the focus on, it
+    // goes back to the control that had it. Tells whether the key is a shortcut where the focus stands, and
+    // so means nothing else there; a button that takes no press leaves it one.
+    bool Key(Form& form, ShortcutKey key);
+    bool Activate(Form& form);  // the form's window was brought to the front
     // Closes the form's window.
     bool CloseWindow(FormSlotBase& slot);
 

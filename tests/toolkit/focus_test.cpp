@@ -11,6 +11,8 @@ struct TwoBoxes : Form {
     TextBox First{*this, "First", 3, 0};
     TextBox Second{*this, "Second", 0, 1};
     Button Go{*this, "Go", "Go", 2};
+
+    std::vector<Shortcut> Shortcuts() override { return {{ShortcutKey::Delete, &First, &Go}}; }
 };
 
 class FocusTest : public ::testing::Test {
@@ -38,6 +40,25 @@ TEST_F(FocusTest, ComplaintKeepsTheFocusAndEndsThePress) {
     EXPECT_EQ(complaints, 2);
     EXPECT_EQ(presses, 0);
     EXPECT_EQ(host.GetFocus().Current(), &form.First);
+}
+
+TEST_F(FocusTest, ShortcutPressesItsButtonOnlyWhereItBelongs) {
+    TwoBoxes& form = *slot.Get();
+    int presses = 0;
+    form.Go.OnClick = [&] { ++presses; };
+    EXPECT_TRUE(door.Key(form, ShortcutKey::Delete));
+    EXPECT_EQ(presses, 1);
+    EXPECT_TRUE(form.First.HasFocus()) << "the focus stays where the key was pressed";
+    EXPECT_FALSE(door.Key(form, ShortcutKey::CtrlS));
+
+    form.Go.SetEnabled(false);
+    EXPECT_TRUE(door.Key(form, ShortcutKey::Delete)) << "no other use of the key either";
+    EXPECT_EQ(presses, 1);
+    form.Go.SetEnabled(true);
+    form.Go.OnClick = [&] { form.Second.SetFocus(); };
+    EXPECT_TRUE(door.Key(form, ShortcutKey::Delete));
+    EXPECT_TRUE(form.Second.HasFocus());
+    EXPECT_FALSE(door.Key(form, ShortcutKey::Delete));
 }
 
 TEST_F(FocusTest, FormMayUnloadItselfInItsOwnRule) {

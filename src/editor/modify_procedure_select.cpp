@@ -1,0 +1,7 @@
+#include "editor/modify_procedure.h"
+
+namespace tarvex {
+
+void ModifyProcedure::WaypointList_Click() {}
+
+}  // namespace tarvex
