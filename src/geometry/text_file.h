@@ -7,7 +7,8 @@
 
 namespace tarvex {
 
-// A text file being read from its start: by items or by lines.
+// A text file being read from its start: by items or by lines. A line ends at CR LF, at CR, or at LF as
+// editors on other systems write it.
 class TextReader {
   public:
     // `text` is the file's whole content and must outlive the reader. `name` is the file's, for failures.
@@ -21,13 +22,16 @@ class TextReader {
     // PastEndOfFile (62) when nothing is left.
     std::string ReadItem();
 
-    // Everything up to the next CR or CR LF, without it. PastEndOfFile (62) when nothing is left.
+    // Everything up to the next line end, without it. PastEndOfFile (62) when nothing is left.
     std::string_view ReadTextLine();
 
     // Number of the line, from 1, in which the next read begins.
     std::size_t LineNumber() const;
 
   private:
+    void RequireMore() const;
+    void PassItemEnd(std::size_t end);
+
     std::string_view text_;
     std::string_view name_;
     std::size_t position_ = 0;

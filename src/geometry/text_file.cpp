@@ -1,0 +1,83 @@
+#include "geometry/text_file.h"
+
+#include <algorithm>
+
+#include "geometry/text_rules.h"
+#include "toolkit/failure.h"
+
+namespace tarvex {
+
+namespace {
+
+constexpr std::string_view LineEndCharacters = "\r\n";
+constexpr std::string_view ItemEndCharacters = ",\r\n";
+
+std::size_t FindOrEnd(std::string_view text, std::string_view characters, std::size_t from) {
+    return std::min(text.find_first_of(characters, from), text.size());
+}
+
+// Characters of the line end at `index`: CR LF is one of two.
+std::size_t LineEndLength(std::string_view text, std::size_t index) {
+    return text.substr(index).starts_with("\r\n") ? 2 : 1;
+}
+
+}  // namespace
+
+bool TextReader::AtEndOfFile() const {
+    return position_ >= text_.size() && !itemOwed_;
+}
+
+std::string TextReader::ReadItem() {
+    RequireMore();
+    itemOwed_ = false;
+    const std::size_t start = std::min(text_.find_first_not_of(" \t", position_), text_.size());
+    std::string_view item;
+    std::size_t end = start;
+    if (text_.substr(start).starts_with('"')) {
+        const std::size_t quote = FindOrEnd(text_, "\"", start + 1);
+        item = text_.substr(start + 1, quote - start - 1);
+        end = FindOrEnd(text_, ItemEndCharacters, std::min(quote + 1, text_.size()));
+    } else {
+        end = FindOrEnd(text_, ItemEndCharacters, start);
+        item = RightTrim(text_.substr(start, end - start));
+    }
+    PassItemEnd(end);
+    return std::string(item);
+}
+
+std::string_view TextReader::ReadTextLine() {
+    RequireMore();
+    itemOwed_ = false;
+    const std::size_t start = position_;
+    const std::size_t end = FindOrEnd(text_, LineEndCharacters, start);
+    position_ = end < text_.size() ? end + LineEndLength(text_, end) : end;
+    return text_.substr(start, end - start);
+}
+
+std::size_t TextReader::LineNumber() const {
+    std::size_t line = 1;
+    for (std::size_t index = 0; (index = FindOrEnd(text_, LineEndCharacters, index)) < position_;) {
+        index += LineEndLength(text_, index);
+        ++line;
+    }
+    return line;
+}
+
+void TextReader::RequireMore() const {
+    if (AtEndOfFile()) throw Failure(PastEndOfFile, std::string(name_) + ": nothing is left to read");
+}
+
+void TextReader::PassItemEnd(std::size_t end) {
+    position_ = end;
+    if (end == text_.size()) return;
+    const bool comma = text_[end] == ',';
+    position_ += comma ? 1 : LineEndLength(text_, end);
+    itemOwed_ = comma && position_ == text_.size();
+}
+
+void WriteTextLine(std::string& file, std::initializer_list<std::string_view> pieces) {
+    for (std::string_view piece : pieces) file.append(piece);
+    file.append("\r\n");
+}
+
+}  // namespace tarvex
