@@ -145,6 +145,9 @@ class ModifyProcedure : public Form {
     void ConnectRows();
     void ConnectTools();
 
+    // Exchanges the selected row with its neighbour, one up (-1) or down (1), and selects it there.
+    void MoveSelected(int by);
+
     Program& program_;
 };
 

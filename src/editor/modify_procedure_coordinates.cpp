@@ -1,7 +1,45 @@
 #include "editor/modify_procedure.h"
+#include "geometry/coordinate_rules.h"
+#include "startup/program.h"
 
 namespace tarvex {
 
-void ModifyProcedure::ConnectCoordinates() {}
+namespace {
+
+void LeaveBox(Program& program, TextBox& box, std::string_view complaint, Flag& edited) {
+    if (!complaint.empty()) {
+        program.Ask({.prompt = std::string(complaint)});
+        box.SetFocus();
+    } else if (!box.Text().empty()) {
+        edited = True;
+    }
+}
+
+}  // namespace
+
+void ModifyProcedure::ConnectCoordinates() {
+    DDMLatText.OnLostFocus = [this] { DDMLatText_LostFocus(); };
+    DMMLatText.OnLostFocus = [this] { DMMLatText_LostFocus(); };
+    DDMLongText.OnLostFocus = [this] { DDMLongText_LostFocus(); };
+    DMMLongText.OnLostFocus = [this] { DMMLongText_LostFocus(); };
+}
+
+void ModifyProcedure::DDMLatText_LostFocus() {
+    LeaveBox(program_, DDMLatText, DegreesComplaint(LatitudeAxis, DDMLatText.Text()), LatEdited);
+}
+
+void ModifyProcedure::DMMLatText_LostFocus() {
+    LeaveBox(program_, DMMLatText, MinutesComplaint(LatitudeAxis, DDMLatText.Text(), DMMLatText.Text()),
+             LatEdited);
+}
+
+void ModifyProcedure::DDMLongText_LostFocus() {
+    LeaveBox(program_, DDMLongText, DegreesComplaint(LongitudeAxis, DDMLongText.Text()), LongEdited);
+}
+
+void ModifyProcedure::DMMLongText_LostFocus() {
+    LeaveBox(program_, DMMLongText, MinutesComplaint(LongitudeAxis, DDMLongText.Text(), DMMLongText.Text()),
+             LongEdited);
+}
 
 }  // namespace tarvex
