@@ -34,6 +34,7 @@ class FindWaypointForm : public Form {
 
     void Form_Load() override;
     Button* WayOut() override { return &GoBackCommand; }
+    std::vector<Shortcut> Shortcuts() override { return {{ShortcutKey::Enter, &SearchText, &SearchCommand}}; }
     void SearchCommand_Click();
     void WaypointListBox_Click();
     void AddWaypoint_Click();

@@ -12,7 +12,7 @@ namespace tarvex {
 class Button;
 class FormHost;
 
-enum class ShortcutKey { Delete, CtrlUp, CtrlDown, CtrlS };
+enum class ShortcutKey { Delete, CtrlUp, CtrlDown, CtrlS, Enter };
 
 // A key of a form that presses a button of it.
 struct Shortcut {
