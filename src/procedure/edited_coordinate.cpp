@@ -1,0 +1,30 @@
+#include "procedure/edited_coordinate.h"
+
+#include <cmath>
+
+#include "geometry/text_rules.h"
+
+namespace tarvex {
+
+namespace {
+
+double DecimalDegrees(std::string_view degrees, std::string_view minutes) {
+    const double number = LeadingNumber(degrees);
+    const double magnitude = std::abs(number) + LeadingNumber(minutes) / 60;
+    const bool negative = number < 0 || (number == 0 && LeftTrim(degrees).starts_with('-'));
+    return negative ? -magnitude : magnitude;
+}
+
+}  // namespace
+
+std::string EditedLatitude(std::string_view degrees, std::string_view minutes) {
+    const std::string text =
+        PatternFormat(SignedNumberText(DecimalDegrees(degrees, minutes)), ThreeDigitPattern);
+    return text == "." ? "0." : text;
+}
+
+std::string EditedLongitude(std::string_view degrees, std::string_view minutes) {
+    return PatternFormat(SignedNumberText(DecimalDegrees(degrees, minutes)), FourDigitPattern);
+}
+
+}  // namespace tarvex

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstdint>
+
+#include "startup/shared_state.h"
+#include "toolkit/failure.h"
+#include "toolkit/file_system.h"
+
+namespace tarvex {
+
+// A procedure file with a record that lacks data or has too much: the run must end with it.
+class ProcedureDataError : public Failure {
+  public:
+    using Failure::Failure;
+};
+
+// Fills WaypointTable and WaypointCount from the file in ProcedureFolder named ProcedureFileName, all or
+// nothing, and returns the count. A file whose latitudes have surplus characters is mended, and an approach
+// of an older version, in mode "I", gets its runway waypoints converted; either is written back before the
+// table is filled.
+//
+// ProcedureDataError for damaged data; Overflow (6) for more waypoints than the table holds or a coordinate
+// out of range; else the failures of the file system and of WriteProcedureFile. On a failure the table and,
+// as far as the file system lets it, the file are as they were.
+std::int32_t ReadProcedureFile(FileSystem& files, SharedState& state);
+
+}  // namespace tarvex
