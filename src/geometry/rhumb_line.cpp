@@ -1,0 +1,72 @@
+#include "geometry/rhumb_line.h"
+
+#include <cmath>
+
+#include "geometry/text_rules.h"
+
+namespace tarvex {
+
+namespace {
+
+// Rounding of the sum of a latitude and a distance must not carry a line that ends at a pole past this.
+constexpr double PoleMargin = 1e-12;
+
+bool IsBetweenPoles(double latitude) {
+    return std::fabs(latitude) < Pi / 2 - PoleMargin;
+}
+
+struct DegreesAndMinutes {
+    std::string degrees;
+    std::string minutes;
+};
+
+DegreesAndMinutes Split(double magnitude) {
+    const std::string degrees = WholeDegreesText(magnitude);
+    return {degrees, PatternFormat((magnitude - LeadingNumber(degrees)) * 60, TwoDigitPattern)};
+}
+
+}  // namespace
+
+RhumbPoint RhumbPointAt(double latitudeDegrees, double longitudeDegrees) {
+    return {latitudeDegrees * RadiansPerDegree, -longitudeDegrees * RadiansPerDegree};
+}
+
+double PositiveModulus(double y, double x) {
+    if (y >= 0) return y - Int(y / x) * x;
+    return (Int(-y / x) + 1) * x + y;
+}
+
+std::optional<RhumbPoint> RhumbDestination(const RhumbPoint& start, double distance, double course) {
+    const double lat1 = start.latitude;
+    const double lat = std::cos(course) * distance + lat1;
+    if (!IsBetweenPoles(lat1) || !IsBetweenPoles(lat)) return std::nullopt;
+
+    const double t1 = std::tan(lat1 / 2 + Pi / 4);
+    const double t2 = std::tan(lat / 2 + Pi / 4);
+    const double dphi = std::log(t2 / t1);
+    const double q = std::fabs(lat - lat1) < RhumbTolerance ? std::cos(lat1) : (lat - lat1) / dphi;
+    const double dlon = -distance * std::sin(course) / q;
+    return RhumbPoint{lat, PositiveModulus(dlon + start.longitude + Pi, TwoPi) - Pi};
+}
+
+PositionTexts PositionTextsOf(const RhumbPoint& point) {
+    const double latDeg = point.latitude * DegreesPerRadian;
+    const double lonDeg = point.longitude * DegreesPerRadian;
+    const DegreesAndMinutes lat = Split(std::fabs(latDeg));
+    const DegreesAndMinutes lon = Split(std::fabs(lonDeg));
+    const bool shownAsZero = lat.degrees == "0" && lat.minutes == ".";
+
+    PositionTexts texts;
+    texts.latDecimal = PatternFormat(latDeg, TwoDigitPattern);
+    texts.latDegrees = lat.degrees;
+    texts.latMinutes = lat.minutes;
+    texts.south = latDeg < 0 && !shownAsZero;
+    texts.west = lonDeg >= 0;
+    texts.longDecimal =
+        PatternFormat(std::fabs(lonDeg), texts.west ? NegatedThreeDigitPattern : ThreeDigitPattern);
+    texts.longDegrees = lon.degrees;
+    texts.longMinutes = lon.minutes;
+    return texts;
+}
+
+}  // namespace tarvex

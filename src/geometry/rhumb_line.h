@@ -1,0 +1,58 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace tarvex {
+
+// Rhumb lines, that is lines of constant true course, on a spherical earth.
+
+// Fifteen significant digits each, not the nearest doubles of the exact values: 360 * RadiansPerDegree is
+// larger than TwoPi, so an angle that has reached 360 degrees counts as past TwoPi.
+inline constexpr double Pi = 3.14159265358979;
+inline constexpr double TwoPi = 6.28318530717958;
+inline constexpr double RadiansPerDegree = 0.0174532925199433;
+inline constexpr double DegreesPerRadian = 57.2957795130824;
+inline constexpr double RadiansPerNauticalMile = 0.000290888208665721;  // one minute of arc
+
+// A difference of latitudes below this, in radians, makes a course one due east or west.
+inline constexpr double RhumbTolerance = 3.1622776601683795e-08;  // the square root of 1e-15
+
+// A point as the formulas take it, in radians. Longitude is positive WEST, against the rest of the program.
+struct RhumbPoint {
+    double latitude = 0;   // north positive; strictly between the poles
+    double longitude = 0;  // west positive; results lie from -Pi up to Pi
+};
+
+// The point at a latitude (north positive) and a longitude (east positive) in degrees.
+RhumbPoint RhumbPointAt(double latitudeDegrees, double longitudeDegrees);
+
+// The remainder of y / x for x above 0: from 0 up to x. For a negative y that is a whole multiple of x it's
+// x.
+double PositiveModulus(double y, double x);
+
+// The point reached from `start` by flying the true course `course` (radians clockwise from north, any value)
+// for `distance` (radians of arc; a negative one goes the other way). Nothing if the line starts at a pole,
+// or reaches or passes one. Within a thousandth of a degree of due east and west the result loses up to half
+// of its digits. Source: Aviation Formulary, Ed Williams, "Rhumb line navigation", the direct problem.
+std::optional<RhumbPoint> RhumbDestination(const RhumbPoint& start, double distance, double course);
+
+// A point in the texts of waypoints and boxes. Whole degrees and minutes are magnitudes. All but the whole
+// degrees are laid out by patterns: "33.5", "34.", ".5", ".".
+struct PositionTexts {
+    std::string latDecimal;  // degrees, "-" for south
+    std::string latDegrees;
+    std::string latMinutes;   // may be "60.": the minutes aren't carried
+    std::string longDecimal;  // degrees, "-" for west
+    std::string longDegrees;
+    std::string longMinutes;
+    bool south = false;  // false for what shows as 0
+    bool west = false;   // true on the zero meridian
+
+    // The degrees of longitude as a waypoint keeps them: "-" for west.
+    std::string SignedLongDegrees() const { return (west ? "-" : "") + longDegrees; }
+};
+
+PositionTexts PositionTextsOf(const RhumbPoint& point);
+
+}  // namespace tarvex
