@@ -1,15 +1,101 @@
 #include "startup/find_fs2000_form.h"
 
+#include "geometry/text_rules.h"
 #include "startup/program.h"
+#include "startup/settings_file.h"
+#include "startup/simulator_folder.h"
+#include "startup/startup_messages.h"
 
 namespace tarvex {
+
+namespace {
+
+constexpr std::ptrdiff_t DriveLength = 3;  // "C:\"
+
+}  // namespace
 
 FindFS2000Form::FindFS2000Form(Program& program)
     : Form(program.host, "FindFS2000Form", ""),
       Drive1(*this, "Drive1", 0, program.platform.files),
       Dir1(*this, "Dir1", 1, program.platform.files),
-      program_(program) {}
+      program_(program) {
+    for (Control* control : Controls()) {
+        if (control != &Frame1) control->PutInto(Frame1);
+    }
+    Drive1.OnChange = [this] { Drive1_Change(); };
+    Dir1.OnChange = [this] { Dir1_Change(); };
+    Dir1.OnClick = [this] { Dir1_Click(); };
+    FindDoneCommand.OnClick = [this] { FindDoneCommand_Click(); };
+}
 
-void FindFS2000Form::Form_Load() {}
+void FindFS2000Form::Form_Load() {
+    SetSimulatorPath(RegisteredSimulatorFolder(program_.platform.registry));
+    const std::string folder = program_.state.SimulatorPath;
+    if (folder.empty()) return;
+    try {
+        Drive1.SetDrive(Left(folder, DriveLength));
+    } catch (const Failure&) {
+        // The drive is gone: the lists stay where they are.
+    }
+}
+
+void FindFS2000Form::Form_Unload() {
+    if (!done_ && program_.host.Visible().size() <= 1) program_.initialLoad.Unload();
+}
+
+void FindFS2000Form::Drive1_Change() {
+    Dir1.SetPath(Drive1.Drive());
+}
+
+void FindFS2000Form::Dir1_Change() {
+    SetSimulatorPath(Dir1.Path());
+}
+
+void FindFS2000Form::Dir1_Click() {
+    const std::string clicked = Dir1.List(Dir1.ListIndex());
+    if (clicked != Dir1.Path()) SetSimulatorPath(clicked);
+}
+
+void FindFS2000Form::FindDoneCommand_Click() {
+    SharedState& state = program_.state;
+    state.SettingsPath = SettingsPathIn(program_.platform.programFolder);
+    try {
+        WriteSettingsFile(program_.platform.files, state.SettingsPath,
+                          {.SimulatorPath = Upper(state.SimulatorPath),
+                           .DefaultLatHemisphere = "N",
+                           .DefaultLongHemisphere = "W",
+                           .MagVarSide = {}},
+                          ShortSettingsLines);
+    } catch (const Failure& failure) {
+        program_.Ask(FolderNotKept(state.SettingsPath, failure.Reason()));
+        return;
+    }
+    state.DefaultLatHemisphere = "N";
+    state.DefaultLongHemisphere = "W";
+    state.MagVarSide = "W";
+    LoadTables();
+    done_ = true;
+    program_.findFS2000Form.Unload();
+    program_.initialLoad.Show();
+}
+
+void FindFS2000Form::LoadTables() {
+    try {
+        program_.FillNavigationTables();
+    } catch (const Failure& failure) {
+        program_.Ask(NavigationDataNotRead(program_.state.SimulatorPath, failure.Reason()));
+    }
+}
+
+void FindFS2000Form::SetSimulatorPath(const std::string& folder) {
+    program_.state.SimulatorPath = folder;
+    if (folder.empty()) {
+        DataHintLabel.SetCaption(NoFolderHint());
+    } else if (HasNavigationData(program_.platform.files, folder)) {
+        DataHintLabel.SetCaption(DataFoundHint(folder));
+    } else {
+        DataHintLabel.SetCaption(NoDataHint(folder));
+    }
+}
 
 }  // namespace tarvex

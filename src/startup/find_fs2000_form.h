@@ -23,13 +23,21 @@ class FindFS2000Form : public Form {
     Button FindDoneCommand{*this, "FindDoneCommand", "Done", 2};
 
     void Form_Load() override;
+    // The way out without Done. Ends the run when it leaves nothing on the screen.
+    void Form_Unload() override;
     void Drive1_Change();
     void Dir1_Change();
     void Dir1_Click();
+    // Keeps the folder, whatever it holds, loads its navigation data and leads to the menu. Where the
+    // settings file can't be written the screen stays.
     void FindDoneCommand_Click();
 
   private:
+    void SetSimulatorPath(const std::string& folder);
+    void LoadTables();
+
     Program& program_;
+    bool done_ = false;
 };
 
 }  // namespace tarvex

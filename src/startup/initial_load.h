@@ -1,11 +1,14 @@
 #pragma once
 
+#include "startup/settings_file.h"
+#include "toolkit/failure.h"
 #include "toolkit/form.h"
 #include "toolkit/simple_controls.h"
 
 namespace tarvex {
 
 class Program;
+struct MenuAction;
 
 // The first screen: its load is the start of the program, and then it stands as the main menu.
 class InitialLoad : public Form {
@@ -20,12 +23,35 @@ class InitialLoad : public Form {
     Button CreateIAP{*this, "CreateIAP", "Create a New IAP", 5};
     Button CreateSTAR{*this, "CreateSTAR", "Create a New STAR", 6};
 
-    // The start sequence: settings, navigation tables.
+    // The start sequence: settings, navigation tables. Without settings and without the simulator's registry
+    // value it ends with the menu hidden and FindFS2000Form on the screen. Stops the program where it can't
+    // go on.
     void Form_Load() override;
     // Ends a normal run.
     void Form_Unload() override;
 
+    void CreateDP_Click();
+    void CreateSTAR_Click();
+    void CreateIAP_Click();
+    void ModifyDP_Click();
+    void ModifySTAR_Click();
+    void ModifyIAP_Click();
+    void ExitCommand_Click();
+
   private:
+    // Bring the settings into the shared state; false when the user has to choose the folder first.
+    bool ReadSettings();
+    bool RecoverShortSettings();
+    bool RecoverMissingSettings();
+    void RewriteSettings(const Settings& settings);
+    void Take(const Settings& settings);
+
+    void Create(const MenuAction& action);
+    void Modify(const MenuAction& action);
+    void RecoverModify(const Failure& failure);
+    void AskForFolder();
+    void SetProcedure(const MenuAction& action);
+
     Program& program_;
 };
 

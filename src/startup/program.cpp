@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "geometry/text_rules.h"
+#include "startup/startup_messages.h"
 
 namespace tarvex {
 
@@ -37,6 +38,19 @@ Program::Program(const Platform& services)
 
 void Program::Start() {
     host.RunEvent([this] { initialLoad.Show(); });
+}
+
+void Program::FillNavigationTables() {
+    const auto leftOut = tarvex::LoadNavigationData(platform.files, state.SimulatorPath, state.Navigation);
+    if (!leftOut.empty()) Ask(EntriesLeftOut(leftOut));
+}
+
+void Program::LoadNavigationData() {
+    try {
+        FillNavigationTables();
+    } catch (const Failure& failure) {
+        Stop(1, failure.Reason());
+    }
 }
 
 MessageAnswer Program::Ask(Message message) {

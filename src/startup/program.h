@@ -27,6 +27,12 @@ class Program {
     // The start of the run, as one event: shows InitialLoad, whose Form_Load is the start sequence.
     void Start();
 
+    // Fills the navigation tables from the simulator folder and tells the user what they had no room for. The
+    // failures of tarvex::LoadNavigationData, behind which the tables are empty.
+    void FillNavigationTables();
+    // The same; a failure stops the program without a message.
+    void LoadNavigationData();
+
     // Shows a message and keeps its answer in MessageAnswer. A message without a title gets the program's.
     MessageAnswer Ask(Message message);
     // Ends the run at once from any depth. `reason`, one line, goes to the terminal.

@@ -1,6 +1,7 @@
 #include "toolkit/drive_lists.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "toolkit/failure.h"
 
@@ -68,9 +69,15 @@ void DriveList::SetDrive(std::string_view drive) {
     });
     if (found == drives_.end()) throw Failure(PathNotFound, "no drive " + std::string(drive));
     if (drive_ == *found) return;
-    drive_ = *found;
+    const std::string before = std::exchange(drive_, *found);
     Changed();
-    Run(OnChange);
+    try {
+        Run(OnChange);
+    } catch (const Failure&) {
+        drive_ = before;
+        Changed();
+        throw;
+    }
 }
 
 FolderList::FolderList(Form& form, std::string_view name, int tabIndex, FileSystem& files)

@@ -19,7 +19,7 @@ class DriveList : public Control {
     }                                                    // as "C:\"; "\" is a root without drives
     const std::string& Drive() const { return drive_; }  // an entry of Drives(); empty without any
     // Takes "C:", "C:\" or a longer text that begins so, in any case. Runs OnChange when the drive changes.
-    // PathNotFound, and no change, when it is none of Drives().
+    // PathNotFound, and no change, when it is none of Drives(); no change either when OnChange fails.
     void SetDrive(std::string_view drive);
     bool TakesFocus() const override { return true; }
 
