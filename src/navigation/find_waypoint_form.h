@@ -4,6 +4,7 @@
 #include <string>
 
 #include "geometry/fixed_field.h"
+#include "navigation/search_kinds.h"
 #include "toolkit/form.h"
 #include "toolkit/list_box.h"
 #include "toolkit/simple_controls.h"
@@ -12,7 +13,8 @@ namespace tarvex {
 
 class Program;
 
-// The search over one navigation table, for the caller that SearchKind names.
+// The search over one navigation table, for the caller that SearchKind names as the screen opens. A search
+// whose caller has closed transfers nothing.
 class FindWaypointForm : public Form {
   public:
     explicit FindWaypointForm(Program& program);
@@ -40,11 +42,27 @@ class FindWaypointForm : public Form {
     void AddWaypoint_Click();
     void GoBackCommand_Click();
 
+    // Whose search this is.
+    SearchCaller Caller() const { return kind_->caller; }
+
   private:
+    static constexpr std::int32_t NoEntry = -1;
+
+    void HidePosition();
+    void ShowPosition(double latitude, double longitude);
+    void ShowFrequency();
+    bool CallerIsOpen() const;
+    void TransferName();
+    void TransferToArcDesigner();
+    void TransferStartPoint();
+    void FillEditorPosition();
+    void CloseStartPhase();
+
     Program& program_;
+    const SearchKindEntry* kind_ = nullptr;  // from the load on
 
     // The result of the last click.
-    std::int32_t SelectedRow = 0;  // table index
+    std::int32_t SelectedRow = NoEntry;  // table index
     std::string LatDegreesText;
     std::string LongDegreesText;
     FixedField<9> LatMinutesText;
@@ -52,5 +70,12 @@ class FindWaypointForm : public Form {
     std::string LatHemisphere;   // "N" or "S"
     std::string LongHemisphere;  // "E" or "W"
 };
+
+// Opens the search anew for the caller that `kind`, a SearchKind, names, instead of one that may be open. The
+// editor's boxes are emptied first if the result is to go there.
+void OpenSearch(Program& program, std::string_view kind);
+
+// Closes the search if it is open for this caller.
+void CloseSearchOf(Program& program, SearchCaller caller);
 
 }  // namespace tarvex
