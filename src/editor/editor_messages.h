@@ -1,9 +1,59 @@
 #pragma once
 
+#include <cstddef>
+#include <string>
+#include <string_view>
+
 #include "toolkit/message_box.h"
 
 // The words of the editor for its user.
 namespace tarvex::editor_messages {
+
+// Opening a stored procedure.
+inline Message FatalData(const std::string& fileName) {
+    return {.prompt = "Procedure " + fileName +
+                      " is missing some of it's data.\r\n"
+                      "You will need to correct the procedure file in order to continue.\r\n"
+                      "This prodram will have to terminate now.",
+            .title = "Fatal Data Error."};
+}
+inline Message NotOpened(const std::string& fileName, const std::string& reason) {
+    return {.prompt = "The procedure " + fileName + " could not be opened:\r\n" + reason,
+            .title = "Procedure not opened."};
+}
+
+// Saving.
+inline const Message FilenameMissing{
+    .prompt = "The filename is missing.",
+    .title = "Complete filename.",
+};
+inline constexpr std::string_view NoFileNameCharacters = "\\/:*?\"<>|";
+inline Message FilenameUnusable(const std::string& fileName) {
+    return {.prompt = "No file can have the name " + fileName +
+                      ".\r\nA filename holds none of the characters \\ / : * ? \" < > |",
+            .title = "Correct the filename."};
+}
+inline const Message OverwriteFile{
+    .prompt =
+        "There is already a file by the same\r\n"
+        "name as the one you want to save.\r\n"
+        "Click Yes to overwrite that file.\r\n"
+        "Click No to change your filename.",
+    .buttons = MessageButtons::YesNo,
+    .icon = MessageIcon::Critical,
+    .defaultAnswer = MessageAnswer::No,
+};
+inline Message ItemUnstorable(std::size_t waypoint, const std::string& item) {
+    return {.prompt = "Waypoint " + std::to_string(waypoint) + " of the list holds the text " + item +
+                      "\r\nA procedure file can not hold a comma or a line end in it, nor a quote at its "
+                      "beginning.\r\nNothing was saved. Please correct the waypoint.",
+            .title = "Correct to continue."};
+}
+inline const Message UnknownSaveError{
+    .prompt = "An unknown error has crept in.\r\n",
+    .title = "Program termination happens now.",
+    .icon = MessageIcon::Critical,
+};
 
 // Adding a waypoint.
 inline const Message AddWhileSelected{

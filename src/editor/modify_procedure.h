@@ -1,6 +1,7 @@
 #pragma once
 
 #include "procedure/waypoint_record.h"
+#include "toolkit/failure.h"
 #include "toolkit/form.h"
 #include "toolkit/list_box.h"
 #include "toolkit/simple_controls.h"
@@ -101,6 +102,9 @@ class ModifyProcedure : public Form {
 
     // Sets the caption of FilenameText from the name boxes (modify_procedure_save.cpp).
     void BuildFilename();
+    void AptNameText_LostFocus();
+    void BasicNameText_LostFocus();
+    void TransitionText_LostFocus();
     void SaveCommand_Click();
 
     // Rules of the boxes (modify_procedure_fields.cpp, modify_procedure_coordinates.cpp).
@@ -144,6 +148,19 @@ class ModifyProcedure : public Form {
     void ConnectCoordinates();
     void ConnectRows();
     void ConnectTools();
+
+    // Steps of Form_Load.
+    void OpenNameBoxes(bool open);
+    void LoadStoredProcedure();
+    void ShowStoredName();
+    void ShowStoredRows();
+
+    // Steps of SaveCommand_Click; false: the user was told why the save ends here.
+    bool NameCanBeSaved();
+    bool MayReplaceStoredFile();
+    bool WriteProcedure();
+    void KeepHemispheres();
+    void SaveFailed(const Failure& failure);
 
     // Exchanges the selected row with its neighbour, one up (-1) or down (1), and selects it there.
     void MoveSelected(int by);

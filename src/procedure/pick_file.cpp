@@ -7,8 +7,34 @@ namespace tarvex {
 PickFile::PickFile(Program& program)
     : Form(program.host, "PickFile", "Procedure Select"),
       FileList(*this, "FileList", 0, program.platform.files),
-      program_(program) {}
+      program_(program) {
+    FileList.OnClick = [this] { FileList_Click(); };
+    PickICAO.OnChange = [this] { PickICAO_Change(); };
+    DoneCommand.OnClick = [this] { DoneCommand_Click(); };
+}
 
-void PickFile::Form_Load() {}
+void PickFile::Form_Load() {
+    try {
+        FileList.SetPath(program_.state.ProcedureFolder);
+        program_.state.ProcedureFileName.clear();
+    } catch (const Failure& failure) {
+        program_.RecoverProcedureFolder(failure);
+    }
+}
+
+void PickFile::PickICAO_Change() {
+    PickICAO.SetFocus();
+    FileList.SetPattern(PickICAO.Text() + "*");
+}
+
+void PickFile::FileList_Click() {
+    program_.state.ProcedureFileName = FileList.FileName();
+    program_.pickFile.Hide();
+    program_.modifyProcedure.Show();
+}
+
+void PickFile::DoneCommand_Click() {
+    program_.pickFile.Unload();
+}
 
 }  // namespace tarvex

@@ -3,19 +3,16 @@
 #include <cstddef>
 
 #include "geometry/text_rules.h"
+#include "procedure/procedure_mode.h"
 #include "toolkit/failure.h"
 
 namespace tarvex {
 
 namespace {
 
-bool IsDeparture(std::string_view mode) {
-    return mode == "D" || mode == "E";
-}
-
 std::string_view MainEnding(std::string_view mode) {
     if (IsDeparture(mode)) return ".wsd";
-    return mode == "I" || mode == "J" ? ".wap" : ".wst";
+    return IsApproach(mode) ? ".wap" : ".wst";
 }
 
 // What stands between two positions of `text`. BadArgument when the second is no longer behind the first.

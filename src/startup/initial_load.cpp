@@ -87,7 +87,7 @@ bool InitialLoad::RecoverMissingSettings() {
     SharedState& state = program_.state;
     state.SimulatorPath = RegisteredSimulatorFolder(program_.platform.registry);
     if (state.SimulatorPath.empty()) {
-        AskForFolder();
+        program_.AskForSimulatorFolder();
         return false;
     }
     RewriteSettings({.SimulatorPath = Upper(state.SimulatorPath),
@@ -163,22 +163,8 @@ void InitialLoad::Modify(const MenuAction& action) {
         SetProcedure(action);
         program_.pickFile.Show();
     } catch (const Failure& failure) {
-        RecoverModify(failure);
+        program_.RecoverProcedureFolder(failure);
     }
-}
-
-void InitialLoad::RecoverModify(const Failure& failure) {
-    if (failure.Number() == FileNotFound) {
-        AskForFolder();
-    } else if (failure.Number() == PathNotFound) {
-        program_.Ask(DataNotFoundIn(program_.state.SimulatorPath));
-        program_.Stop(1, failure.Reason());
-    }
-}
-
-void InitialLoad::AskForFolder() {
-    program_.initialLoad.Hide();
-    program_.findFS2000Form.Show();
 }
 
 void InitialLoad::SetProcedure(const MenuAction& action) {

@@ -48,8 +48,6 @@ class InitialLoad : public Form {
 
     void Create(const MenuAction& action);
     void Modify(const MenuAction& action);
-    void RecoverModify(const Failure& failure);
-    void AskForFolder();
     void SetProcedure(const MenuAction& action);
 
     Program& program_;

@@ -53,6 +53,20 @@ void Program::LoadNavigationData() {
     }
 }
 
+void Program::AskForSimulatorFolder() {
+    initialLoad.Hide();
+    findFS2000Form.Show();
+}
+
+void Program::RecoverProcedureFolder(const Failure& failure) {
+    if (failure.Number() == FileNotFound) {
+        AskForSimulatorFolder();
+    } else if (failure.Number() == PathNotFound) {
+        Ask(DataNotFoundIn(state.SimulatorPath));
+        Stop(1, failure.Reason());
+    }
+}
+
 MessageAnswer Program::Ask(Message message) {
     if (message.title.empty()) message.title = ProgramTitle;
     const MessageAnswer answer = platform.messages.Show(message);

@@ -33,6 +33,12 @@ class Program {
     // The same; a failure stops the program without a message.
     void LoadNavigationData();
 
+    // Hides the menu and has the user choose the simulator folder.
+    void AskForSimulatorFolder();
+    // What a failure means while a stored procedure is being chosen: for want of a file (53) the user chooses
+    // the folder, for want of a folder (76) the program stops behind a message, any other has no effect.
+    void RecoverProcedureFolder(const Failure& failure);
+
     // Shows a message and keeps its answer in MessageAnswer. A message without a title gets the program's.
     MessageAnswer Ask(Message message);
     // Ends the run at once from any depth. `reason`, one line, goes to the terminal.
