@@ -33,8 +33,11 @@ double PositiveModulus(double y, double x);
 
 // The point reached from `start` by flying the true course `course` (radians clockwise from north, any value)
 // for `distance` (radians of arc; a negative one goes the other way). Nothing if the line starts at a pole,
-// or reaches or passes one. Within a thousandth of a degree of due east and west the result loses up to half
-// of its digits. Source: Aviation Formulary, Ed Williams, "Rhumb line navigation", the direct problem.
+// or reaches or passes one.
+// Source: Aviation Formulary, Ed Williams, "Rhumb line navigation", the direct problem. Toward due east and
+// west it divides small differences: over 10 miles and more the change of longitude has 12 good digits far
+// off them, 11 at one degree off, one less for each tenth of that, and at the least 7 between 0.001 and
+// 0.00001 degrees; due east and west have 13.
 std::optional<RhumbPoint> RhumbDestination(const RhumbPoint& start, double distance, double course);
 
 // A point in the texts of waypoints and boxes. Whole degrees and minutes are magnitudes. All but the whole
