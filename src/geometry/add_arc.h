@@ -1,5 +1,6 @@
 #pragma once
 
+#include "geometry/arc_layout.h"
 #include "toolkit/form.h"
 #include "toolkit/simple_controls.h"
 
@@ -7,7 +8,8 @@ namespace tarvex {
 
 class Program;
 
-// The ARC designer: lays out an arc around a centre as a chain of waypoints.
+// The ARC designer: lays out an arc around a centre as a chain of waypoints behind the others of the
+// procedure. The centre is a navaid found by the search or comes from LatLongForm.
 class AddARC : public Form {
   public:
     explicit AddARC(Program& program);
@@ -35,8 +37,26 @@ class AddARC : public Form {
     void Form_Load() override;
     Button* WayOut() override { return &ExitCommand; }
 
+    void ArcStartText_LostFocus();
+    void ArcEndText_LostFocus();
+    void ArcRadiusText_LostFocus();
+    void MagVarText_LostFocus();
+    void Command1_Click();
+    void LatLongCommand_Click();
+    void TransferCommand_Click();
+    void ExitCommand_Click();
+
   private:
+    // Each shows its message and moves the focus when it fails.
+    bool BoxesAreFilled();
+    bool VariationIsMeant();
+    bool TurnIsChosen();
+    bool Accept(const ArcLayout& arc);
+
+    ArcRequest Request() const;
+
     Program& program_;
+    bool NavaidCenter = true;  // false for good once LatLongCommand was pressed
 };
 
 }  // namespace tarvex

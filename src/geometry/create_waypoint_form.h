@@ -7,7 +7,8 @@ namespace tarvex {
 
 class Program;
 
-// Derives a waypoint from a known point, a true course and a distance.
+// Derives a waypoint from a known point, a true course and a distance. The result goes into the editor's
+// boxes; the editor's add button makes the row.
 class CreateWaypointForm : public Form {
   public:
     explicit CreateWaypointForm(Program& program);
@@ -32,7 +33,18 @@ class CreateWaypointForm : public Form {
     void Form_Load() override;
     Button* WayOut() override { return &Command1; }
 
+    void NavaidCommand_Click();
+    void FixCommand_Click();
+    void RunwayCommand_Click();
+    void TrueCourseText_LostFocus();
+    void DistText_LostFocus();
+    void TransferCommand_Click();
+    void Command1_Click();
+
   private:
+    // Shows its message and moves the focus when it fails.
+    bool InputIsComplete();
+
     Program& program_;
 };
 

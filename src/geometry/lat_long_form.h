@@ -7,7 +7,8 @@ namespace tarvex {
 
 class Program;
 
-// Takes the centre of an arc by hand.
+// Takes the centre of an arc by hand, for the ARC designer. Degrees and minutes are magnitudes; the options
+// carry the signs.
 class LatLongForm : public Form {
   public:
     explicit LatLongForm(Program& program);
@@ -29,7 +30,17 @@ class LatLongForm : public Form {
 
     Button* WayOut() override { return &OopsCommand; }
 
+    void DLatCenterText_LostFocus();
+    void MLatCenterText_LostFocus();
+    void DLongCenterText_LostFocus();
+    void MLongCenterText_LostFocus();
+    void DoneCommand_Click();
+    void OopsCommand_Click();
+
   private:
+    // Whether all boxes make up a position; shows the first complaint and moves the focus there if not.
+    bool PositionIsComplete();
+
     Program& program_;
 };
 

@@ -74,6 +74,13 @@ MessageAnswer Program::Ask(Message message) {
     return answer;
 }
 
+bool Program::Complain(std::string_view complaint, Control& control) {
+    if (complaint.empty()) return false;
+    Ask({.prompt = std::string(complaint)});
+    control.SetFocus();
+    return true;
+}
+
 void Program::Stop(int exitStatus, std::string reason) {
     throw ProgramStopped{exitStatus, std::move(reason)};
 }

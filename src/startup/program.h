@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "editor/modify_procedure.h"
 #include "geometry/add_arc.h"
@@ -41,6 +42,8 @@ class Program {
 
     // Shows a message and keeps its answer in MessageAnswer. A message without a title gets the program's.
     MessageAnswer Ask(Message message);
+    // Shows the complaint, if it isn't empty, and gives the focus to `control`. Whether there was one.
+    bool Complain(std::string_view complaint, Control& control);
     // Ends the run at once from any depth. `reason`, one line, goes to the terminal.
     [[noreturn]] void Stop(int exitStatus, std::string reason = {});
 
