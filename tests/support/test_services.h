@@ -3,11 +3,23 @@
 #include <deque>
 #include <gtest/gtest.h>
 #include <map>
+#include <ostream>
 #include <string>
 #include <vector>
 
 #include "startup/program.h"
 #include "support/memory_file_system.h"
+
+namespace tarvex {
+
+inline void PrintTo(const Message& message, std::ostream* out) {
+    *out << "[" << message.title << "] " << message.prompt
+         << (message.buttons == MessageButtons::YesNo ? " (Yes, No)" : "")
+         << (message.icon == MessageIcon::Critical ? " (critical)" : "") << " default "
+         << static_cast<int>(message.defaultAnswer);
+}
+
+}  // namespace tarvex
 
 namespace tarvex::testing {
 
