@@ -1,0 +1,85 @@
+#include "procedure/procedure_file_name.h"
+
+#include <gtest/gtest.h>
+#include <ostream>
+
+#include "toolkit/failure.h"
+
+namespace tarvex {
+
+void PrintTo(const ProcedureName& name, std::ostream* out) {
+    *out << name.icao << '|' << name.basicName << '|' << name.secondName << '|'
+         << static_cast<int>(name.kind);
+}
+
+namespace {
+
+using Kind = ProcedureName::Kind;
+
+TEST(ProcedureFileName, IsBuiltFromTheBoxesAndTheMode) {
+    const struct {
+        ProcedureName name;
+        const char* modes;
+        const char* built;
+    } cases[] = {
+        {{"kxyz", "demo1", ""}, "DE", "KXYZ-DEMO1.wsd"},
+        {{"KXYZ", "DEMO1", ""}, "ST", "KXYZ-DEMO1.wst"},
+        {{"KXYZ", "DEMO1", ""}, "IJ", "KXYZ-DEMO1.wap"},
+        {{"KXYZ", "DEMO1", "", Kind::Runway}, "DE", "KXYZ-DEMO1.wsd"},
+        {{"KXYZ", "DEMO1", "27l", Kind::Runway}, "DE", "KXYZ-DEMO1.27L.rwy"},
+        {{"KXYZ", "DEMO1", "27l", Kind::Runway}, "STIJ", "KXYZ-DEMO1.27L.tr"},
+        {{"KXYZ", "DEMO1", "abc", Kind::Transition}, "DESTIJ", "KXYZ-DEMO1.ABC.tr"},
+        {{"KXYZ", "", ""}, "DESTIJ", "KXYZ"},
+        {{"KXYZ", "", "ABC", Kind::Runway}, "DESTIJ", "KXYZ.ABC"},
+        {{"", "DEMO1", ""}, "E", "-DEMO1.wsd"},
+        {{"KXY ", "A-B.C", ""}, "E", "KXY -A-B.C.wsd"},
+        {{"KXYZ", "\xE4\xF6\xFC", ""}, "E", "KXYZ-\xC4\xD6\xDC.wsd"},
+    };
+    for (const auto& [name, modes, built] : cases) {
+        for (const char* mode = modes; *mode != '\0'; ++mode) {
+            EXPECT_EQ(BuildProcedureFileName(name, std::string_view(mode, 1)), built) << *mode;
+        }
+    }
+}
+
+TEST(ProcedureFileName, IsSplitAtItsFirstSeparators) {
+    const struct {
+        const char* fileName;
+        ProcedureName name;
+    } cases[] = {
+        {"KXYZ-DEMO1.wsd", {"KXYZ", "DEMO1", "", Kind::Main}},
+        {"kxyz-demo1.ABC.tr", {"kxyz", "demo1", "ABC", Kind::Transition}},
+        {"KXYZ-DEMO1.27L.rwy", {"KXYZ", "DEMO1", "27L", Kind::Runway}},
+        {"KXYZ-DEMO1.ABC.TR", {"KXYZ", "DEMO1", "", Kind::Main}},
+        {"KXYZ-A-B.C.D.tr", {"KXYZ", "A-B", "C", Kind::Transition}},
+        {"-.", {"", "", "", Kind::Main}},
+        {"K-A..tr", {"K", "A", "", Kind::Transition}},
+    };
+    for (const auto& [fileName, name] : cases) EXPECT_EQ(SplitProcedureFileName(fileName), name) << fileName;
+}
+
+TEST(ProcedureFileName, WithoutASeparatorItNeedsIsRefused) {
+    const struct {
+        const char* fileName;
+        const char* reason;
+    } cases[] = {
+        {"", ": the name has no \"-\" behind the airport's code"},
+        {"KXYZ.wsd", "KXYZ.wsd: the name has no \"-\" behind the airport's code"},
+        {"KXYZ-DEMO1", "KXYZ-DEMO1: the name has no \".\" that ends the basic name"},
+        {"KX.YZ-DEMO1", "KX.YZ-DEMO1: the name has no \".\" that ends the basic name"},
+        {"KXYZ-DEMO1.tr", "KXYZ-DEMO1.tr: the name has no second \".\" that ends the transition or runway"},
+        {"KXYZ-DEMO1.rwy", "KXYZ-DEMO1.rwy: the name has no second \".\" that ends the transition or runway"},
+    };
+    for (const auto& [fileName, reason] : cases) {
+        try {
+            SplitProcedureFileName(fileName);
+            ADD_FAILURE() << fileName;
+        } catch (const Failure& failure) {
+            EXPECT_EQ(failure.Number(), BadArgument);
+            EXPECT_EQ(failure.Reason(), reason);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace tarvex

@@ -1,0 +1,118 @@
+#include "procedure/procedure_lines.h"
+
+#include <gtest/gtest.h>
+
+#include "procedure/altitude_band.h"
+#include "procedure/edited_coordinate.h"
+#include "toolkit/failure.h"
+
+namespace tarvex {
+namespace {
+
+std::string Line(const WaypointItems& items) {
+    const std::string text = ProcedureText("; c", std::span(&items, 1));
+    return text.substr(7, text.size() - 7 - std::string("\r\n\r\nEnd of Terminal Procedure\r\n").size());
+}
+
+WaypointRecord Row() {
+    WaypointRecord row;
+    row.WaypointID = "ROBUC";
+    row.WaypointType = "05";
+    row.LatDecimal = " 040.50";
+    row.LongDecimal = "-73.";
+    row.LatDegrees = "-0";
+    row.LatMinutes = "30";
+    row.LongDegrees = "117";
+    row.LongMinutes = "45";
+    row.Frequency = "0";
+    row.Airspeed = "250";
+    row.Altitude1 = "3000";
+    row.Altitude2 = "9000";
+    row.RestrictionType = "3";
+    return row;
+}
+
+TEST(ProcedureLines, OfOneRowByBothWriters) {
+    WaypointRecord row = Row();
+    EXPECT_EQ(Line(ItemsAsHeld(row)), "W,ROBUC,,05, 040.50,-73.,0,250,9000,3000,3,");
+    EXPECT_EQ(Line(ItemsForSave(row)), "W,ROBUC,,5, 040.50,-73.,0,250,3000,9000,3,");
+    row.CoordinatesEdited = True;
+    EXPECT_EQ(Line(ItemsForSave(row)), "W,ROBUC,,5,-.5,117.75,0,250,3000,9000,3,");
+    EXPECT_EQ(Line(ItemsAsHeld(row)), "W,ROBUC,,05, 040.50,-73.,0,250,9000,3000,3,");
+}
+
+TEST(ProcedureLines, TypeThatIsNoNumberCanNotBeSaved) {
+    for (const char* type : {"", "X", "1X"}) {
+        WaypointRecord row = Row();
+        row.WaypointType = type;
+        EXPECT_THROW(ItemsForSave(row), Failure) << type;
+        EXPECT_NO_THROW(ItemsAsHeld(row)) << type;
+    }
+}
+
+TEST(ProcedureLines, ItemsThatWouldNotComeBackAreFound) {
+    const struct {
+        const char* item;
+        bool storable;
+    } cases[] = {{"1,000", false},  {"A\rB", false}, {"A\nB", false}, {"\"A", false},
+                 {" \t\"A", false}, {"A\"B", true},  {"  A ;", true}, {"", true}};
+    for (const auto& [item, storable] : cases) {
+        std::vector<WaypointItems> lines(3, ItemsAsHeld(Row()));
+        lines[1][AirspeedColumn] = item;
+        const auto found = FindUnstorableItem(lines);
+        ASSERT_EQ(found.has_value(), !storable) << item;
+        if (found) {
+            EXPECT_EQ(found->row, 1U);
+            EXPECT_EQ(found->column, AirspeedColumn);
+        }
+    }
+}
+
+TEST(EditedCoordinate, OfDegreesAndMinutes) {
+    const struct {
+        const char* degrees;
+        const char* minutes;
+        const char* latitude;
+        const char* longitude;
+    } cases[] = {
+        {"33", "30", "33.5", "33.5"},     {"-33", "30", "-33.5", "-33.5"},
+        {"- 33", "30", "-33.5", "-33.5"}, {" 33", "0", "33.", "33."},
+        {"33", "", "33.", "33."},         {"33", "56", "33.933333", "33.933333"},
+        {"0", "30", ".5", ".5"},          {"", "30", ".5", ".5"},
+        {"-0", "30", "-.5", "-.5"},       {"- 0", "15", "-.25", "-.25"},
+        {" -", "15", "-.25", "-.25"},     {"0", "0", "0.", "."},
+        {"-0", "0", "0.", "."},           {"", "", "0.", "."},
+        {"0", ".000012", "0.", "."},      {"179", "59.9999999", "180.", "180."},
+        {"-1", "30x", "-1.5", "-1.5"},
+    };
+    for (const auto& [degrees, minutes, latitude, longitude] : cases) {
+        EXPECT_EQ(EditedLatitude(degrees, minutes), latitude) << degrees << ' ' << minutes;
+        EXPECT_EQ(EditedLongitude(degrees, minutes), longitude) << degrees << ' ' << minutes;
+    }
+}
+
+TEST(AltitudeBand, IsOrderedByNumberWhenThereIsASecondAltitude) {
+    const struct {
+        const char* altitude1;
+        const char* altitude2;
+        const char* ordered1;
+        const char* ordered2;
+    } cases[] = {
+        {"9000", "3000", "3000", "9000"},   {"3000", "9000", "3000", "9000"},
+        {"10000", "9000", "9000", "10000"}, {"5000", "0", "5000", "0"},
+        {"5000", "00", "00", "5000"},       {"5000", "", "", "5000"},
+        {"", "5000", "", "5000"},           {"0", "5000", "0", "5000"},
+        {"-50", "-100", "-100", "-50"},     {"10", "010", "10", "010"},
+    };
+    for (const auto& [altitude1, altitude2, ordered1, ordered2] : cases) {
+        WaypointRecord row;
+        row.Altitude1 = altitude1;
+        row.Altitude2 = altitude2;
+        OrderAltitudes(row);
+        EXPECT_EQ(row.Altitude1, FixedField<6>(ordered1)) << altitude1 << ' ' << altitude2;
+        EXPECT_EQ(row.Altitude2, FixedField<6>(ordered2)) << altitude1 << ' ' << altitude2;
+    }
+}
+
+}  // namespace
+}  // namespace tarvex
