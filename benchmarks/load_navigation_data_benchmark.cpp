@@ -1,6 +1,4 @@
-#include <algorithm>
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <memory>
@@ -9,12 +7,11 @@
 #include "allocation_count.h"
 #include "navigation/load_navigation_data.h"
 #include "navigation_files.h"
+#include "timing.h"
 #include "toolkit/native_file_system.h"
 
 namespace tarvex::benchmarks {
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 const NavigationFiles& FullSize() {
     static const NavigationFiles files = NavigationFiles::OfFullSize();
@@ -66,28 +63,14 @@ void NavigationLoad(benchmark::State& state) {
 }
 BENCHMARK(NavigationLoad)->Unit(benchmark::kMillisecond);
 
-double MedianOf(std::vector<double> values) {
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
-
-double MillisecondsFrom(Clock::time_point start) {
-    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
-}
-
 // The load and its floor by turns, so that both meet the same machine.
 void NavigationLoadToFloor(benchmark::State& state) {
     Load load;
     const std::string path = FullSize().SimulatorPath();
     std::vector<double> floors, loads;
     for (auto _ : state) {
-        auto start = Clock::now();
-        ReadAndCountLines();
-        floors.push_back(MillisecondsFrom(start));
-        start = Clock::now();
-        load(path);
-        loads.push_back(MillisecondsFrom(start));
+        floors.push_back(MillisecondsOf(ReadAndCountLines));
+        loads.push_back(MillisecondsOf([&] { load(path); }));
     }
     state.counters["floor_ms"] = MedianOf(floors);
     state.counters["load_ms"] = MedianOf(loads);

@@ -1,5 +1,6 @@
 #include "navigation/search.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "geometry/text_rules.h"
@@ -22,11 +23,14 @@ template <class Record, std::size_t Width, class Match>
 std::vector<std::int32_t> Scan(const Record* entries, std::int32_t last,
                                FixedField<Width> Record::*identifier, std::string_view text, Match matches) {
     const FourCharacters wanted = Load(FixedField<4>(text).View().data());
+    const auto isCandidate = [=](const Record& entry) {
+        const char* const characters = (entry.*identifier).View().data();
+        return Load(characters) == wanted || *characters == ' ';
+    };
     std::vector<std::int32_t> found;
-    for (std::int32_t i = 0; i <= last; ++i) {
-        const std::string_view field = (entries[i].*identifier).View();
-        if (Load(field.data()) != wanted && field.front() != ' ') continue;
-        if (matches(field)) found.push_back(i);
+    const Record* const end = entries + (last + 1);
+    for (const Record* at = entries; (at = std::find_if(at, end, isCandidate)) != end; ++at) {
+        if (matches((at->*identifier).View())) found.push_back(static_cast<std::int32_t>(at - entries));
     }
     return found;
 }
