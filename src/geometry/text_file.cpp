@@ -31,18 +31,14 @@ std::string TextReader::ReadItem() {
     RequireMore();
     itemOwed_ = false;
     const std::size_t start = std::min(text_.find_first_not_of(" \t", position_), text_.size());
-    std::string_view item;
-    std::size_t end = start;
     if (text_.substr(start).starts_with('"')) {
         const std::size_t quote = FindOrEnd(text_, "\"", start + 1);
-        item = text_.substr(start + 1, quote - start - 1);
-        end = FindOrEnd(text_, ItemEndCharacters, std::min(quote + 1, text_.size()));
-    } else {
-        end = FindOrEnd(text_, ItemEndCharacters, start);
-        item = RightTrim(text_.substr(start, end - start));
+        PassItemEnd(FindOrEnd(text_, ItemEndCharacters, quote + 1));
+        return std::string(text_.substr(start + 1, quote - start - 1));
     }
+    const std::size_t end = FindOrEnd(text_, ItemEndCharacters, start);
     PassItemEnd(end);
-    return std::string(item);
+    return std::string(RightTrim(text_.substr(start, end - start)));
 }
 
 std::string_view TextReader::ReadTextLine() {
