@@ -24,8 +24,8 @@ double StrictNumber(std::string_view text);
 bool IsNumberText(std::string_view text);
 
 // Up to 15 significant digits, "-" for negative numbers, a zero in front of the point: "33.5", "0.5",
-// "-117.25". Magnitudes from 1e-7 up to 1e15 are plain digits; others have digits, "E", a sign and at least
-// two digits. This and the texts below: Overflow (6) for a number that isn't finite.
+// "-117.25". Magnitudes from 1e-7 to below 1e15 are plain digits; others have digits, "E", a sign and at
+// least two digits. This and the texts below: Overflow (6) for a number that isn't finite.
 std::string NumberText(double number);
 
 // The digits of NumberText without the zero in front of the point, behind one blank for a number at or above
