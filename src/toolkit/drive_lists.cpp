@@ -15,12 +15,11 @@ char Folded(char c) {
 }
 
 bool FoldedLess(const std::string& a, const std::string& b) {
-    const auto less = [](char x, char y) {
-        return static_cast<unsigned char>(Folded(x)) < static_cast<unsigned char>(Folded(y));
-    };
-    if (std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), less)) return true;
-    if (std::lexicographical_compare(b.begin(), b.end(), a.begin(), a.end(), less)) return false;
-    return a < b;
+    const auto same = [](char x, char y) { return Folded(x) == Folded(y); };
+    const auto [x, y] = std::mismatch(a.begin(), a.end(), b.begin(), b.end(), same);
+    if (x == a.end() && y == b.end()) return a < b;
+    if (x == a.end() || y == b.end()) return x == a.end();
+    return static_cast<unsigned char>(Folded(*x)) < static_cast<unsigned char>(Folded(*y));
 }
 
 bool BeginsFolded(std::string_view text, std::string_view beginning) {
@@ -50,11 +49,21 @@ std::vector<std::string> FoldersAbove(std::string path) {
     return above;
 }
 
+// The program's current folder; where that has gone, the first drive.
+std::string StartFolder(FileSystem& files) {
+    try {
+        return files.CurrentFolder();
+    } catch (const Failure&) {
+        const auto drives = files.Drives();
+        return drives.empty() ? std::string() : drives.front();
+    }
+}
+
 }  // namespace
 
 DriveList::DriveList(Form& form, std::string_view name, int tabIndex, FileSystem& files)
     : Control(form, name, tabIndex), drives_(files.Drives()) {
-    const std::string here = files.CurrentFolder();
+    const std::string here = StartFolder(files);
     // The longest that fits, so that a drive letter comes before a bare root.
     for (const auto& drive : drives_) {
         if (BeginsFolded(here, drive) && drive.size() > drive_.size()) drive_ = drive;
@@ -82,7 +91,7 @@ void DriveList::SetDrive(std::string_view drive) {
 
 FolderList::FolderList(Form& form, std::string_view name, int tabIndex, FileSystem& files)
     : Control(form, name, tabIndex), files_(files) {
-    path_ = files_.CurrentFolder();
+    path_ = StartFolder(files);
     above_ = FoldersAbove(path_);
     try {
         below_ = files_.Folders(path_);
@@ -100,6 +109,14 @@ void FolderList::SetPath(std::string_view path) {
     } else if (target.size() > 1 && target.back() == '\\') {
         target.pop_back();
     }
+    GoTo(std::move(target));
+}
+
+void FolderList::Open(int index) {
+    GoTo(List(index));
+}
+
+void FolderList::GoTo(std::string target) {
     auto below = files_.Folders(target);
     std::sort(below.begin(), below.end(), FoldedLess);
     const bool changed = path_ != target;

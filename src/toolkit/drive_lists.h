@@ -46,6 +46,8 @@ class FolderList : public Control {
 
     int FirstIndex() const { return OpenFolder - static_cast<int>(above_.size()); }
     int ListCount() const { return static_cast<int>(below_.size()); }  // sub-folders
+    // Walks to the folder at an index, of a root to the root itself. Otherwise as SetPath.
+    void Open(int index);
     // The full path at an index from FirstIndex() to ListCount() - 1.
     std::string List(int index) const;
     // What a row shows: the name alone; of a root, the root.
@@ -60,6 +62,8 @@ class FolderList : public Control {
     std::function<void()> OnClick;
 
   private:
+    void GoTo(std::string folder);
+
     FileSystem& files_;
     std::string path_;
     std::vector<std::string> above_;  // full paths, the nearest first

@@ -8,8 +8,12 @@
 
 namespace tarvex {
 
+bool Focus::CanHold(const Control& control) const {
+    return host_.IsInUse(control.Owner()) && control.CanTakeFocus();
+}
+
 bool Focus::Give(Control& target) {
-    if (!target.CanTakeFocus() || !host_.IsLoaded(target.Owner())) return false;
+    if (!CanHold(target)) return false;
     if (leaving_) {
         redirected_ = true;
         if (&target != current_) Set(&target);
@@ -29,8 +33,8 @@ bool Focus::Give(Control& target) {
             throw;
         }
         leaving_ = false;
-        if (std::exchange(redirected_, false)) return false;
-        if (!host_.IsLoaded(target.Owner()) || !target.CanTakeFocus()) return false;
+        if (std::exchange(redirected_, false)) return current_ == &target;
+        if (!CanHold(target)) return false;
     }
     Set(&target);
     return true;
@@ -54,7 +58,10 @@ void Focus::FormGone(const Form& form) {
 
 void Focus::Set(Control* control) {
     current_ = control;
-    if (control != nullptr) control->Owner().lastFocus_ = control;
+    if (control != nullptr) {
+        control->Owner().lastFocus_ = control;
+        host_.Raised(control->Owner());
+    }
     host_.Notify().FocusMoved(control);
 }
 

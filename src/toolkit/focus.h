@@ -16,7 +16,7 @@ class Focus {
 
     // Moves the focus to `target`, on whatever visible or loading form it stands, after the leaving rule of
     // the control that has the focus has run. False when the target can't take it, or when that rule gave the
-    // focus to a control itself, its own as a rule: then it stays there and the target never had it.
+    // focus to another control itself, its own as a rule: then it stays there and the target never had it.
     bool Give(Control& target);
 
     // Gives the focus to the control of `form` that had it last, else to the first in tab order. A form
@@ -30,6 +30,7 @@ class Focus {
     void FormGone(const Form& form);
 
   private:
+    bool CanHold(const Control& control) const;
     void Set(Control* control);
 
     FormHost& host_;

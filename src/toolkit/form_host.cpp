@@ -5,9 +5,10 @@
 
 namespace tarvex {
 
-bool FormHost::IsLoaded(const Form& form) const {
-    return std::any_of(slots_.begin(), slots_.end(),
-                       [&form](const FormSlotBase* slot) { return slot->Loaded() == &form; });
+bool FormHost::IsInUse(const Form& form) const {
+    return std::any_of(slots_.begin(), slots_.end(), [&form](const FormSlotBase* slot) {
+        return slot->Loaded() == &form && (form.Visible() || slot->loading_);
+    });
 }
 
 void FormHost::RunEvent(const std::function<void()>& event) {
@@ -22,6 +23,8 @@ void FormHost::RunEvent(const std::function<void()>& event) {
             event();
         } catch (const Failure& failure) {
             if (report_) report_(failure);
+        } catch (const std::exception& unexpected) {
+            if (report_) report_(Failure(DeviceError, unexpected.what()));
         }
     } catch (const ProgramStopped& stop) {
         stopped_ = stop;
@@ -31,25 +34,28 @@ void FormHost::RunEvent(const std::function<void()>& event) {
 }
 
 void FormHost::Raised(Form& form) {
-    std::erase(visible_, &form);
-    visible_.push_back(&form);
+    if (std::erase(visible_, &form) > 0) visible_.push_back(&form);
 }
 
 void FormHost::BringToFront(Form& form) {
-    Raised(form);
+    std::erase(visible_, &form);
+    visible_.push_back(&form);
     Notify().FormShown(form);
     focus_.Activate(form);
 }
 
 void FormHost::TakeOffScreen(Form& form) {
-    if (std::erase(visible_, &form) == 0) return;
-    const bool hadFocus = focus_.Current() == nullptr || &focus_.Current()->Owner() == &form;
+    // A form can have the focus before it is on the screen, given in its Form_Load.
+    const Control* current = focus_.Current();
+    const bool hadFocus = current != nullptr && &current->Owner() == &form;
+    const bool wasVisible = std::erase(visible_, &form) > 0;
     focus_.FormGone(form);
-    if (hadFocus && !visible_.empty()) focus_.Activate(*visible_.back());
+    const bool focusIsFree = hadFocus || (wasVisible && current == nullptr);
+    if (focusIsFree && !visible_.empty()) focus_.Activate(*visible_.back());
 }
 
 void FormHost::Bury(std::unique_ptr<Form> form) {
-    if (eventDepth_ > 0) graveyard_.push_back(std::move(form));
+    graveyard_.push_back(std::move(form));
 }
 
 FormSlotBase::FormSlotBase(FormHost& host) : host_(host) {
@@ -70,11 +76,12 @@ void FormSlotBase::Show() {
             form_->Form_Load();
         } catch (...) {
             loading_ = false;
-            if (form_.get() == made) host_.Bury(std::move(form_));
+            if (form_.get() == made) End();
             throw;
         }
         loading_ = false;
-        if (form_.get() != made || hiddenInLoad_) return;
+        if (form_.get() != made) return;
+        if (hiddenInLoad_) return host_.TakeOffScreen(*form_);
     }
     form_->visible_ = true;
     host_.BringToFront(*form_);
@@ -99,6 +106,10 @@ void FormSlotBase::Unload() {
         throw;
     }
     unloading_ = false;
+    End();
+}
+
+void FormSlotBase::End() {
     auto form = std::move(form_);
     form->visible_ = false;
     host_.Notify().FormUnloaded(*form);

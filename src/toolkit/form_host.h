@@ -33,11 +33,13 @@ class FormHost {
     FormHost& operator=(const FormHost&) = delete;
 
     Focus& GetFocus() { return focus_; }
-    bool IsLoaded(const Form& form) const;
+    // Whether the form is on the screen or is being loaded.
+    bool IsInUse(const Form& form) const;
     // The visible forms, the one in front last.
     const std::vector<Form*>& Visible() const { return visible_; }
 
-    // The window system has brought a visible form to the front by itself.
+    // A form came to the front with the focus, or because the window system brought it there. Does nothing
+    // with one that isn't on the screen.
     void Raised(Form& form);
 
     // Null ends the observation.
@@ -48,7 +50,8 @@ class FormHost {
     void SetFailureReport(std::function<void(const Failure&)> report) { report_ = std::move(report); }
 
     // Runs one event of the outside world, or an operation within one. The outermost event takes what no
-    // operation caught: a failure goes to the failure report, a stop ends the run. Forms that were unloaded
+    // operation caught: a failure goes to the failure report (any other exception too, as a DeviceError), a
+    // stop ends the run. Forms that were unloaded
     // on the way are destroyed behind it. Does nothing once the program has stopped.
     void RunEvent(const std::function<void()>& event);
 
@@ -98,6 +101,8 @@ class FormSlotBase {
 
   private:
     friend class FormHost;
+
+    void End();  // takes the loaded form off the screen and out of the slot
 
     FormHost& host_;
     std::unique_ptr<Form> form_;

@@ -12,6 +12,11 @@ char Folded(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
 }
 
+std::string AllFolded(std::string text) {
+    std::transform(text.begin(), text.end(), text.begin(), Folded);
+    return text;
+}
+
 bool IsLetter(char c) {
     return Folded(c) >= 'a' && Folded(c) <= 'z';
 }
@@ -49,6 +54,8 @@ std::string PathMapping::Stored(const std::string& folder, const std::string& pa
     for (auto& name : view_.Names(folder.empty() ? "." : folder)) {
         if (EqualFolded(name, part) && (stored.empty() || name < stored)) stored = std::move(name);
     }
+    // A folder may be open to those who know what is in it, as the one that holds the users' own.
+    if (stored.empty() && view_.Has(folder + AllFolded(part))) stored = AllFolded(part);
     found = !stored.empty();
     return found ? stored : part;
 }

@@ -81,7 +81,7 @@ bool UserDoor::PickFolder(FolderList& list, int index) {
 }
 
 bool UserDoor::OpenFolder(FolderList& list, int index) {
-    return Act(list, [&] { list.SetPath(list.List(index)); });
+    return Act(list, [&] { list.Open(index); });
 }
 
 bool UserDoor::PickFile(FileList& list, int index) {
