@@ -1,0 +1,186 @@
+#include "support/editor_road.h"
+
+namespace tarvex::testing {
+namespace {
+
+class Saving : public EditorRoad {
+  protected:
+    ModifyProcedure& CreateNamed(const char* airport, const char* basic) {
+        CreateDP();
+        Name(airport, basic);
+        Add({.fix = "A", .latDegrees = "33", .longDegrees = "117"});
+        return Editor();
+    }
+    // The message ends the program, and the stored file is what it was.
+    void ExpectStop(const Message& message) {
+        EXPECT_EQ(services.messages.Take(), std::vector{message});
+        ASSERT_TRUE(program->host.Stopped());
+        EXPECT_EQ(program->host.Stopped()->exitStatus, 1);
+        EXPECT_EQ(services.files.Content("C:\\Tarvex\\Tarvex.INI"), "C:\\FS2000\r\nN\r\nW\r\nW\r\n");
+    }
+
+    const std::string one = "W,A,,0,33.,-117.,0,0,0,0,0,\r\n";
+    const Message unknownError{.prompt = "An unknown error has crept in.\r\n",
+                               .title = "Program termination happens now.",
+                               .icon = MessageIcon::Critical};
+};
+
+TEST_F(Saving, FileNameFollowsTheBoxesAsTheyLoseTheFocus) {
+    ModifyProcedure& editor = CreateDP();
+    const struct {
+        TextBox* box;
+        const char* text;
+        const char* name;
+    } steps[] = {
+        {&editor.TransitionText, "27l", ".27L"},
+        {&editor.AptNameText, "kxyz", "KXYZ.27L"},
+        {&editor.BasicNameText, "demo1", "KXYZ-DEMO1.27L.tr"},
+    };
+    for (const auto& [box, text, name] : steps) {
+        const std::string before = editor.FilenameText.Caption();
+        user->Types(*box, text);
+        EXPECT_EQ(editor.FilenameText.Caption(), before);
+        user->MovesTo(editor.WaypointList);
+        EXPECT_EQ(editor.FilenameText.Caption(), name);
+        EXPECT_EQ(box->Text(), text);
+    }
+    user->Toggles(editor.RwySpecificCheck);
+    EXPECT_EQ(editor.FilenameText.Caption(), "KXYZ-DEMO1.27L.tr");
+    EXPECT_EQ(Save("KXYZ-DEMO1.27L.rwy"), Saved(""));
+}
+
+TEST_F(Saving, NeedsANameThatAFileCanHave) {
+    ModifyProcedure& editor = CreateNamed("", "DEMO1");
+    user->Presses(editor.SaveCommand);
+    ExpectMessage("The filename is missing.", "Complete filename.", "SaveCommand");
+    Name("KXYZ", "");
+    user->Presses(editor.SaveCommand);
+    ExpectMessage("The filename is missing.", "Complete filename.", "SaveCommand");
+    for (const char* basic : {"..\\A", "A/B", "A:B", "A*", "A?", "\"A", "<", ">", "|", "A\tB"}) {
+        Name("kxyz", basic);
+        user->Presses(editor.SaveCommand);
+        ExpectMessage("No file can have the name " + editor.FilenameText.Caption() +
+                          ".\r\nA filename holds none of the characters \\ / : * ? \" < > |",
+                      "Correct the filename.", "AptNameText");
+    }
+    EXPECT_TRUE(services.files.Written().empty());
+    Name("KXYZ", "A-B.C");
+    EXPECT_EQ(Save("KXYZ-A-B.C.wsd"), Saved(one));
+}
+
+TEST_F(Saving, AsksBeforeItOverwritesTheSameNameInACreateMode) {
+    const Message question{
+        .prompt =
+            "There is already a file by the same\r\n"
+            "name as the one you want to save.\r\n"
+            "Click Yes to overwrite that file.\r\n"
+            "Click No to change your filename.",
+        .buttons = MessageButtons::YesNo,
+        .icon = MessageIcon::Critical,
+        .defaultAnswer = MessageAnswer::No,
+    };
+    Message shown = question;
+    shown.title = ProgramTitle;
+    services.files.Put(Path("KXYZ-DEMO1.wsd"), "before");
+    ModifyProcedure& editor = CreateNamed("KXYZ", "DEMO1");
+    user->Picks(editor.SLatOption);
+    EXPECT_EQ(Save("KXYZ-DEMO1.wsd"), "");
+    ExpectMessage(shown, "AptNameText");
+    EXPECT_EQ(State().MessageAnswer, "7");
+    EXPECT_EQ(State().WaypointCount, 1);
+    EXPECT_TRUE(services.files.Written().empty());
+
+    services.messages.Answer(MessageAnswer::Yes);
+    EXPECT_EQ(Save("KXYZ-DEMO1.wsd"), Saved(one));
+    EXPECT_EQ(services.messages.Take(), std::vector{shown});
+    EXPECT_EQ(services.files.Content("C:\\Tarvex\\Tarvex.INI"), "C:\\FS2000\r\nS\r\nW\r\nW\r\n");
+    EXPECT_EQ(State().DefaultLatHemisphere, "S");
+
+    EXPECT_EQ((OpenDP("KXYZ-DEMO1.wsd"), Save("KXYZ-DEMO1.wsd")), Saved(one));
+    services.files.Put(Path("kxyz-other.wsd"), "before");
+    CreateNamed("KXYZ", "OTHER");
+    EXPECT_EQ(Save("KXYZ-OTHER.wsd"), Saved("W,A,,0,-33.,-117.,0,0,0,0,0,\r\n"));
+    ExpectSilence();
+}
+
+TEST_F(Saving, RowsThatWereReadKeepTheirDecimals) {
+    const std::string lines =
+        "W,A,,0,.,.,0,0,0,0,0,\r\nW,B,,0,-.,0000.10,0,0,0,0,0,\r\nW,C,,15,1E1,+.5,0,0,,9000,3,\r\n";
+    for (int round = 0; round < 2; ++round) {
+        OpenDP("KXYZ-DEMO1.wsd", lines);
+        EXPECT_EQ(Save("KXYZ-DEMO1.wsd"), Saved(lines));
+    }
+    services.files.Put(Path("kxyz-low.wsd"), Saved("W,A,,0,1,1,0,0,9000,3000,3,\r\n"));
+    OpenDP("kxyz-low.wsd");
+    EXPECT_EQ(Row(0).Altitude1, FixedField<6>("3000"));
+    EXPECT_EQ(Save("KXYZ-LOW.wsd"), Saved("W,A,,0,1,1,0,0,3000,9000,3,\r\n"));
+    EXPECT_EQ(Row(0).Altitude1, FixedField<6>("9000"));
+}
+
+TEST_F(Saving, TextThatTheFileCanNotHoldIsNotSaved) {
+    ModifyProcedure& editor = CreateNamed("KXYZ", "DEMO1");
+    Add({.fix = "B", .latDegrees = "33", .longDegrees = "117", .altitude = "1,000"});
+    user->Presses(editor.SaveCommand);
+    ExpectMessage(
+        "Waypoint 2 of the list holds the text 1,000\r\n"
+        "A procedure file can not hold a comma or a line end in it, nor a quote at its beginning.\r\n"
+        "Nothing was saved. Please correct the waypoint.",
+        "Correct to continue.", "SaveCommand");
+    EXPECT_TRUE(services.files.Written().empty());
+    EXPECT_EQ(State().WaypointCount, 2);
+}
+
+TEST_F(Saving, TypeThatIsNoNumberStopsBeforeTheFileIsOpened) {
+    const std::string stored = "; 2.35\r\nW,A,,X,1,1,0,0,0,0,0,\r\n";
+    services.files.Put(Path("KXYZ-DEMO1.wsd"), stored);
+    user->Presses(OpenDP("KXYZ-DEMO1.wsd").SaveCommand);
+    ExpectStop(unknownError);
+    EXPECT_EQ(services.files.Content(Path("KXYZ-DEMO1.wsd")), stored);
+}
+
+TEST_F(Saving, FailuresOfTheFileGoByTheirNumber) {
+    services.files.FailWrite(Path("KXYZ-DEMO1.wsd"), FileNotFound);
+    ModifyProcedure& editor = CreateNamed("KXYZ", "DEMO1");
+    Add({.fix = "B",
+         .latDegrees = "33",
+         .longDegrees = "117",
+         .altitude = "3000",
+         .upperAltitude = "9000",
+         .restriction = &ModifyProcedure::AtAboveAtBelowOption});
+    EXPECT_EQ(Save("KXYZ-DEMO1.wsd"), "");
+    EXPECT_TRUE(program->findFS2000Form.IsLoaded());
+    EXPECT_TRUE(editor.Visible());
+    ExpectSilence();
+    // The rows are as they were, and a save that can write still writes the band lower first.
+    EXPECT_EQ(Row(1).Altitude1, FixedField<6>("3000"));
+    user->Types(editor.BasicNameText, "DEMO2");
+    EXPECT_EQ(Save("KXYZ-DEMO2.wsd"), Saved(one + "W,B,,0,33.,-117.,0,0,3000,9000,3,\r\n"));
+}
+
+TEST_F(Saving, FullDiskStopsTheProgram) {
+    services.files.FailWrite(Path("KXYZ-DEMO1.wsd"), DiskFull);
+    user->Presses(CreateNamed("KXYZ", "DEMO1").SaveCommand);
+    ExpectStop(unknownError);
+    EXPECT_EQ(program->host.Stopped()->reason, Path("KXYZ-DEMO1.wsd") + ": cannot be written");
+}
+
+TEST_F(Saving, SettingsThatCanNotBeWrittenStopTheProgram) {
+    services.files.FailWrite("C:\\Tarvex\\Tarvex.INI", AccessError);
+    user->Presses(CreateNamed("KXYZ", "DEMO1").SaveCommand);
+    ExpectStop(unknownError);
+    EXPECT_EQ(services.files.Content(Path("KXYZ-DEMO1.wsd")), Saved(one));
+}
+
+TEST_F(Saving, MissingFolderStopsTheProgram) {
+    CreateNamed("KXYZ", "DEMO1");
+    services.files.RemoveFolder("C:\\FS2000\\Giostam");
+    user->Presses(Editor().SaveCommand);
+    ExpectStop({.prompt = "I could not find the 767 Pilot in Command (PIC) data files.\r\n"
+                          "Please insure PIC is loaded in it's default location within FS2000.\r\n"
+                          "This program can not run without the data files and must now terminate.",
+                .title = "Program termination.",
+                .icon = MessageIcon::Critical});
+}
+
+}  // namespace
+}  // namespace tarvex::testing

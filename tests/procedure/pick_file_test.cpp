@@ -1,0 +1,80 @@
+#include "procedure/pick_file.h"
+
+#include "support/editor_road.h"
+
+namespace tarvex::testing {
+namespace {
+
+class Picker : public EditorRoad {
+  protected:
+    Picker() {
+        for (const char* name : {"kjfk-LATER.wsd", "KLAX-PERCH1.VTU.tr", "KJFK-SKORR3.wsd", "readme.txt"}) {
+            services.files.Put(Path(name), "; 2.35\r\n");
+        }
+    }
+    PickFile& Open() {
+        user->Presses(Menu().ModifyDP);
+        return *program->pickFile.Get();
+    }
+};
+
+TEST_F(Picker, NarrowsTheListByWhatIsTyped) {
+    using Names = std::vector<std::string>;
+    PickFile& picker = Open();
+    EXPECT_EQ(picker.Caption(), "Procedure Select");
+    EXPECT_EQ(user->FocusName(), "FileList");
+    const Names all{"kjfk-LATER.wsd", "KJFK-SKORR3.wsd", "KLAX-PERCH1.VTU.tr", "readme.txt"};
+    const struct {
+        const char* typed;
+        Names names;
+    } cases[] = {
+        {"k", {all[0], all[1], all[2]}},
+        {"KjFk-S", {all[0], all[1]}},
+        {"*", {}},
+        {"?", {}},
+        {"KJFX", {}},
+        {"", all},
+    };
+    for (const auto& [typed, names] : cases) {
+        user->Types(picker.PickICAO, typed);
+        EXPECT_EQ(picker.FileList.Lines(), names) << typed;
+        EXPECT_EQ(user->FocusName(), "PickICAO");
+    }
+}
+
+TEST_F(Picker, OpensTheEditorOnAClickAndStartsAfreshEachTime) {
+    PickFile& first = Open();
+    user->Types(first.PickICAO, "KLAX");
+    EXPECT_TRUE(user->PicksFile(first.FileList, "KLAX-PERCH1.VTU.tr"));
+    EXPECT_EQ(State().ProcedureFileName, "KLAX-PERCH1.VTU.tr");
+    EXPECT_TRUE(program->pickFile.IsLoaded());
+    EXPECT_EQ(program->host.Visible(), std::vector<Form*>{&Editor()});
+    user->Presses(Editor().OopsCommand);
+
+    PickFile& second = Open();
+    EXPECT_EQ(State().ProcedureFileName, "");
+    EXPECT_EQ(second.FileList.Lines().size(), 4U);
+    EXPECT_TRUE(Menu().Visible());
+    user->Presses(second.DoneCommand);
+    EXPECT_FALSE(program->pickFile.IsLoaded());
+    EXPECT_EQ(State().ProcedureMode, "D");
+    EXPECT_EQ(program->host.Visible(), std::vector<Form*>{&Menu()});
+}
+
+TEST_F(Picker, MissingFolderStopsTheProgram) {
+    services.files.RemoveFolder("C:\\FS2000\\Giostam\\navdata\\Sids");
+    user->Presses(Menu().ModifyDP);
+    const Message expected{
+        .prompt =
+            "I could not find the 767 Pilot in Command (PIC) data files in C:\\FS2000 .\r\n"
+            "Please insure PIC is loaded in it's default location within FS2000.\r\n"
+            "This program can not run without the data files and must now terminate.",
+        .title = "Program termination.",
+        .icon = MessageIcon::Critical};
+    EXPECT_EQ(services.messages.Take(), std::vector{expected});
+    EXPECT_EQ(State().MessageAnswer, "1");
+    EXPECT_TRUE(program->host.Stopped());
+}
+
+}  // namespace
+}  // namespace tarvex::testing
