@@ -1,0 +1,95 @@
+# What the Windows scripts share: where the cached wxWidgets lies, and how its source is had.
+
+cache=${TARVEX_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/tarvex}
+
+say() { printf '%s\n' "== $*"; }
+
+as_root() {
+    if [ "$(id -u)" = 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+# The MinGW prefix of an architecture name of ours.
+triplet_of() {
+    case $1 in
+        x64) echo x86_64-w64-mingw32 ;;
+        x86) echo i686-w64-mingw32 ;;
+        *) echo "unknown architecture $1" >&2; return 1 ;;
+    esac
+}
+
+wx_prefix() { echo "$cache/wx-$1"; }
+wx_is_built() { [ -f "$(wx_prefix "$1")/complete" ]; }
+
+# Fetches the source package of wxWidgets into the cache and prints the folder of the tree. The package list comes
+# from a list of the script's own, made of the machine's own sources with source packages switched on; what the
+# machine is set up to use stays as it is.
+wx_source() {
+    local found
+    found=$(find "$cache" -maxdepth 1 -type d -name 'wxWidgets-*' 2>/dev/null | head -n 1)
+    if [ -n "$found" ] && [ -f "$found/complete" ]; then echo "$found"; return; fi
+
+    local work=$cache/source
+    rm -rf "$work" && mkdir -p "$work/lists/partial" "$work/parts" "$work/archives/partial"
+    sed -n 's/^deb /deb-src /p' /etc/apt/sources.list 2>/dev/null > "$work/parts/own.list" || true
+    local file
+    for file in /etc/apt/sources.list.d/*.list; do
+        [ -f "$file" ] && grep -q debian "$file" && sed -n 's/^deb /deb-src /p' "$file" > "$work/parts/$(basename "$file")"
+    done
+    for file in /etc/apt/sources.list.d/*.sources; do
+        [ -f "$file" ] && grep -q debian-archive "$file" &&
+            sed 's/^Types:.*/Types: deb-src/' "$file" > "$work/parts/$(basename "$file")"
+    done
+    local apt=(-o Dir::Etc::SourceList=/dev/null -o "Dir::Etc::SourceParts=$work/parts"
+               -o "Dir::State::Lists=$work/lists" -o APT::Sandbox::User=root)
+    say "fetching the source package of wxWidgets" >&2
+    apt-get "${apt[@]}" -qq update >&2
+    (cd "$work" && apt-get "${apt[@]}" -qq --download-only source wxwidgets3.2 >&2)
+    local archive
+    archive=$(find "$work" -maxdepth 1 -name 'wxwidgets3.2_*.orig.tar.*' ! -name '*.asc' | head -n 1)
+    [ -n "$archive" ] || { echo "the source package held no archive" >&2; return 1; }
+    mkdir -p "$work/tree" && tar -xf "$archive" -C "$work/tree" --strip-components=1
+    local version
+    version=$(sed -n 's/.*wxVERSION_NUM_DOT_STRING *"\([0-9.]*\)".*/\1/p' "$work/tree/include/wx/version.h")
+    [ -n "$version" ] || version=$(basename "$archive" | sed 's/wxwidgets3.2_\([0-9.]*[0-9]\).*/\1/')
+    rm -rf "$cache/wxWidgets-$version" && mv "$work/tree" "$cache/wxWidgets-$version"
+    touch "$cache/wxWidgets-$version/complete" && rm -rf "$work"
+    echo "$cache/wxWidgets-$version"
+}
+
+# Builds wxWidgets static for one architecture, once.
+build_wx() {
+    local arch=$1 triplet prefix source
+    triplet=$(triplet_of "$arch")
+    prefix=$(wx_prefix "$arch")
+    if wx_is_built "$arch"; then say "wxWidgets for $arch is in the cache"; return; fi
+    source=$(wx_source)
+    say "building wxWidgets for $arch (once; about a quarter of an hour on two cores)"
+    local build=$cache/build-$arch
+    rm -rf "$build" "$prefix" && mkdir -p "$build"
+    (
+        cd "$build"
+        "$source/configure" --quiet --host="$triplet" --build=x86_64-linux-gnu --prefix="$prefix" \
+            --disable-shared --enable-unicode --disable-debug_flag --disable-precomp-headers --without-expat --without-zlib \
+            --without-libpng --without-libjpeg --without-libtiff --without-regex --without-nanosvg --disable-mediactrl --disable-webview \
+            --disable-stc --disable-xrc --disable-aui --disable-propgrid --disable-ribbon --disable-richtext \
+            --disable-html --disable-sockets --disable-fs_archive --disable-fs_inet --disable-fs_zip \
+            --disable-zipstream --disable-tarstream --disable-protocol --disable-url --disable-printarch \
+            --disable-mdi --disable-help --disable-debugreport --disable-svg --disable-joystick \
+            --disable-sound --disable-tests CC="$triplet-gcc-posix" CXX="$triplet-g++-posix" \
+            CFLAGS="-Os" CXXFLAGS="-Os -std=gnu++17" > "$cache/configure-$arch.log" 2>&1 ||
+            { tail -n 20 "$cache/configure-$arch.log" >&2; exit 1; }
+        local total done_count
+        total=$(make -n 2>/dev/null | grep -c -- ' -c ' || true)
+        make -j"$(nproc)" > "$cache/make-$arch.log" 2>&1 &
+        local maker=$!
+        while kill -0 "$maker" 2>/dev/null; do
+            sleep 20
+            done_count=$(find . -name '*.o' | wc -l)
+            printf '   %s of about %s files compiled\n' "$done_count" "$total"
+        done
+        wait "$maker" || { tail -n 30 "$cache/make-$arch.log" >&2; exit 1; }
+        make install > "$cache/install-$arch.log" 2>&1
+    )
+    touch "$prefix/complete"
+    rm -rf "$build"
+}
