@@ -138,9 +138,10 @@ const Road Roads[] = {
          if (done.operation == Operation::Write && number != FaultyFileSystem::ShortRead) {
              return "[Tarvex 2.35] " + std::string(Menu);
          }
-         // Half of the new file is too short once, and the recovery then reads the whole of it.
-         if (done.path == Ini && number == FaultyFileSystem::ShortRead) return std::string(Menu);
          // The first read misses the file anyway; the read back of the new file has no second recovery.
+         if (done.path == Ini && number == FaultyFileSystem::ShortRead) {
+             return done.index == 2 ? Fatal : std::string(Menu);
+         }
          return StartEnd(done, number, done.index == 0 ? Menu : Fatal.c_str());
      }},
     {"open", [](World& world) { world.Start(); },
