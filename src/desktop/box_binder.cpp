@@ -1,0 +1,43 @@
+#include "desktop/box_binder.h"
+
+#include <algorithm>
+
+#include "desktop/native_text.h"
+#include "desktop/theme.h"
+
+namespace tarvex {
+
+TextBoxBinder::TextBoxBinder(NativeForm& window, TextBox& box, wxTextCtrl& widget, const wxString& spoken)
+    : Binder(window, box, widget, spoken), box_(box), widget_(widget) {
+    widget.Bind(wxEVT_TEXT, [this](wxCommandEvent&) { ToDoor(); });
+}
+
+void TextBoxBinder::ToDoor() {
+    Post([this, typed = widget_.GetValue()](UserDoor& door) {
+        return door.Type(box_, Typed(box_.Text(), typed));
+    });
+}
+
+void TextBoxBinder::ToWidget() {
+    const wxString text = Shown(box_.Text());
+    if (widget_.GetValue() != text) PutText(text);
+    if (widget_.IsEditable() == box_.Locked()) widget_.SetEditable(!box_.Locked());
+    if (background_ != box_.BackColor()) {
+        background_ = box_.BackColor();
+        widget_.SetBackgroundColour(BoxBackground(background_));
+        widget_.Refresh();
+    }
+    Binder::ToWidget();
+}
+
+// The caret keeps its distance from the end where what stood behind it is still there, so that a refused
+// character leaves it where it was typed.
+void TextBoxBinder::PutText(const wxString& text) {
+    const auto caret = static_cast<std::size_t>(std::max(0L, widget_.GetInsertionPoint()));
+    const wxString behind = widget_.GetValue().Mid(caret);
+    widget_.ChangeValue(text);
+    const std::size_t place = text.EndsWith(behind) ? text.length() - behind.length() : text.length();
+    widget_.SetInsertionPoint(static_cast<long>(place));
+}
+
+}  // namespace tarvex

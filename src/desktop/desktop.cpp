@@ -1,0 +1,206 @@
+#include "desktop/desktop.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <wx/app.h>
+
+#include "desktop/layouts.h"
+#include "desktop/placement.h"
+#include "desktop/window_system.h"
+
+namespace tarvex {
+
+Desktop::Desktop(Program& program) : program_(program) {
+    program_.host.SetObserver(this);
+}
+
+Desktop::~Desktop() {
+    program_.host.SetObserver(nullptr);
+}
+
+void Desktop::Start() {
+    Post({NativeAct::Kind::Act, nullptr, nullptr, [this] {
+              program_.Start();
+              return true;
+          }});
+}
+
+NativeForm* Desktop::WindowOf(const Form& form) const {
+    const auto found = windows_.find(&form);
+    return found == windows_.end() ? nullptr : found->second;
+}
+
+NativeForm& Desktop::MakeWindow(Form& form) {
+    const ScreenLayout& layout = LayoutOf(form);
+    NativeForm* anchor = nullptr;
+    for (const auto& [other, window] : windows_) {
+        if (other->Name() == layout.beside) anchor = window;
+    }
+    const Mute mute(*this);
+    auto* window = new NativeForm(*this, form, layout.floats ? anchor : nullptr);
+    windows_[&form] = window;
+    layout.layOut(form, *window);
+    window->Flush();
+    FitToContent(*window);
+    if (anchor != nullptr) {
+        PlaceBeside(*window, *anchor);
+    } else {
+        window->CentreOnScreen();
+    }
+    return *window;
+}
+
+void Desktop::FormShown(Form& form) {
+    NativeForm* window = WindowOf(form);
+    if (window == nullptr) window = &MakeWindow(form);
+    window->Flush();
+    const Mute mute(*this);
+    window->Show();
+    BringToFront(*window);
+}
+
+void Desktop::FormHidden(Form& form) {
+    NativeForm* window = WindowOf(form);
+    if (window == nullptr) return;
+    const Mute mute(*this);
+    window->Hide();
+    if (front_ == window) front_ = nullptr;
+    if (awaited_ == window) awaited_ = nullptr;
+}
+
+void Desktop::FormUnloaded(Form& form) {
+    acts_.Forget(form);
+    NativeForm* window = WindowOf(form);
+    if (window == nullptr) return;
+    FormHidden(form);
+    window->Detach();
+    windows_.erase(&form);
+    detached_.push_back(window);
+}
+
+void Desktop::Post(NativeAct act) {
+    if (awaited_ != nullptr && act.kind != NativeAct::Kind::Activate && act.form != awaited_->Shows()) {
+        awaited_ = nullptr;
+    }
+    acts_.Push(std::move(act));
+    if (std::exchange(drainPosted_, true)) return;
+    RunNext([this] {
+        drainPosted_ = false;
+        Drain();
+    });
+}
+
+void Desktop::Drain() {
+    // A message box runs the event loop within an act; what comes in waits for the act's end.
+    if (draining_ || program_.host.Stopped()) return;
+    draining_ = true;
+    while (auto act = acts_.Next()) {
+        messageShown_ = false;
+        movedByKey_ = false;
+        const bool carried = act->carry();
+        if (program_.host.Stopped()) {
+            End();
+            return;
+        }
+        if (!carried || messageShown_) DropActs();
+        if (!acts_.Empty()) continue;
+        FlushAll();
+        SettleFocus(movedByKey_);
+    }
+    draining_ = false;
+    DestroyDetached();
+}
+
+void Desktop::FlushAll() {
+    for (const auto& [form, window] : windows_) window->Flush();
+}
+
+void Desktop::DropActs() {
+    acts_.Clear();
+    for (const auto& [form, window] : windows_) window->TouchAll();
+}
+
+void Desktop::SettleFocus(bool selectAll) {
+    const Control* focus = FocusOfProgram();
+    if (focus == nullptr) {
+        for (const auto& [form, window] : windows_) window->ForgetFocus();
+        return;
+    }
+    NativeForm* window = WindowOf(focus->Owner());
+    if (window == nullptr || !window->IsShown()) return;
+    window->PutFocusOn(*focus, selectAll);
+    if (window != front_) BringToFront(*window);
+}
+
+void Desktop::BringToFront(NativeForm& window) {
+    front_ = &window;
+    awaited_ = window.IsActive() ? nullptr : &window;
+    window.Raise();
+}
+
+void Desktop::ActivatedByUser(NativeForm& window) {
+    front_ = &window;
+    if (awaited_ != nullptr) {
+        // On the way to the window that the program wants in front, others may come by.
+        if (awaited_ == &window) awaited_ = nullptr;
+        return;
+    }
+    window.Post(NativeAct::Kind::Activate, nullptr, [this, &window](UserDoor& door) {
+        return front_ != &window || door.Activate(*window.Shows());
+    });
+}
+
+void Desktop::CloseByUser(Form& form) {
+    const std::pair<std::string_view, FormSlotBase*> slots[] = {
+        {"InitialLoad", &program_.initialLoad},
+        {"FindFS2000Form", &program_.findFS2000Form},
+        {"PickFile", &program_.pickFile},
+        {"ModifyProcedure", &program_.modifyProcedure},
+        {"FindWaypointForm", &program_.findWaypointForm},
+        {"AddARC", &program_.addARC},
+        {"CreateWaypointForm", &program_.createWaypointForm},
+        {"LatLongForm", &program_.latLongForm},
+    };
+    for (const auto& [name, slot] : slots) {
+        if (name != form.Name()) continue;
+        program_.door.CloseWindow(*slot);
+        return;
+    }
+}
+
+wxWindow* Desktop::BeforeMessage() {
+    FlushAll();
+    const Control* focus = FocusOfProgram();
+    NativeForm* window = focus == nullptr ? nullptr : WindowOf(focus->Owner());
+    if (window == nullptr && !program_.host.Visible().empty()) {
+        window = WindowOf(*program_.host.Visible().back());
+    }
+    return window != nullptr && window->IsShown() ? window : nullptr;
+}
+
+void Desktop::AfterMessage() {
+    messageShown_ = true;
+    // The system may hand the front to any window now; the program's is brought back.
+    front_ = nullptr;
+}
+
+void Desktop::DestroyDetached() {
+    for (NativeForm* window : std::exchange(detached_, {})) window->Destroy();
+}
+
+void Desktop::End() {
+    program_.host.SetObserver(nullptr);
+    acts_.Clear();
+    for (const auto& [form, window] : windows_) {
+        window->Hide();
+        window->Detach();
+        detached_.push_back(window);
+    }
+    windows_.clear();
+    draining_ = false;
+    DestroyDetached();
+    wxTheApp->ExitMainLoop();
+}
+
+}  // namespace tarvex

@@ -1,0 +1,156 @@
+#include "desktop/form_builder.h"
+
+#include <wx/bmpbuttn.h>
+#include <wx/button.h>
+#include <wx/checkbox.h>
+#include <wx/listbox.h>
+#include <wx/radiobut.h>
+#include <wx/statbox.h>
+#include <wx/statline.h>
+#include <wx/textctrl.h>
+
+#include "desktop/act_binders.h"
+#include "desktop/box_binder.h"
+#include "desktop/list_binders.h"
+#include "desktop/native_form.h"
+#include "desktop/native_text.h"
+#include "desktop/window_system.h"
+
+namespace tarvex {
+
+int FormBuilder::Gap() const {
+    return (window_.Page().GetCharHeight() + 1) / 2;
+}
+
+wxWindow* FormBuilder::Inside(const Frame& frame) const {
+    return frames_.at(&frame);
+}
+
+wxWindow* FormBuilder::ParentOf(const Control& control) const {
+    if (control.Container() != nullptr) return frames_.at(control.Container());
+    return parent_ != nullptr ? parent_ : &window_.Page();
+}
+
+wxSize FormBuilder::SizeOf(wxSize characters) const {
+    const wxWindow& page = window_.Page();
+    return {page.GetTextExtent(wxString('N', static_cast<std::size_t>(characters.x))).x,
+            characters.y * (page.GetCharHeight() + Gap())};
+}
+
+wxStaticText* FormBuilder::Put(Label& label, LabelStyle style) {
+    auto* widget = new wxStaticText(ParentOf(label), wxID_ANY, wxString());
+    wxFont font = widget->GetFont();
+    if (style == LabelStyle::Heading) font.Scale(1.5f);
+    if (style != LabelStyle::Plain) widget->SetFont(font.Bold());
+    window_.Bind<LabelBinder>(label, std::vector{widget});
+    return widget;
+}
+
+std::vector<wxStaticText*> FormBuilder::PutInParts(Label& label, std::size_t parts) {
+    std::vector<wxStaticText*> widgets;
+    for (std::size_t i = 0; i < parts; ++i) {
+        widgets.push_back(new wxStaticText(ParentOf(label), wxID_ANY, wxString()));
+    }
+    window_.Bind<LabelBinder>(label, widgets);
+    return widgets;
+}
+
+wxTextCtrl* FormBuilder::Put(TextBox& box, int characters, const wxString& spoken) {
+    auto* widget = new wxTextCtrl(ParentOf(box), wxID_ANY);
+    widget->SetInitialSize(widget->GetSizeFromTextSize(SizeOf({characters, 1}).x));
+    window_.Bind<TextBoxBinder>(box, *widget, spoken);
+    return widget;
+}
+
+wxAnyButton* FormBuilder::Put(Button& button) {
+    auto* widget = new wxButton(ParentOf(button), wxID_ANY, wxString(" "));
+    window_.Bind<ButtonBinder>(button, *widget);
+    return widget;
+}
+
+wxSizer* FormBuilder::PutSmall(Button& button, Glyph glyph, Label& label) {
+    auto* widget = new wxBitmapButton(ParentOf(button), wxID_ANY, GlyphImage(glyph, 2 * Gap()));
+    const wxString spoken = ShownLines(label.Caption());
+    window_.Bind<ButtonBinder>(button, *widget, spoken);
+    auto* text = new wxStaticText(ParentOf(label), wxID_ANY, wxString());
+    window_.Bind<LabelBinder>(label, std::vector{text}).PressesButton(button);
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    row->Add(widget, wxSizerFlags().CentreVertical());
+    row->AddSpacer(Gap() * 3 / 4);
+    row->Add(text, wxSizerFlags().CentreVertical());
+    return row;
+}
+
+wxRadioButton* FormBuilder::Put(OptionButton& option) {
+    wxWindow* parent = ParentOf(option);
+    wxRadioButton*& none = none_[option.Container()];
+    if (none == nullptr) {
+        none = new wxRadioButton(parent, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize, wxRB_GROUP);
+        none->Hide();
+    }
+    auto* widget = new wxRadioButton(parent, wxID_ANY, Shown(option.Caption()));
+    window_.Bind<OptionBinder>(option, *widget, *none);
+    return widget;
+}
+
+wxCheckBox* FormBuilder::Put(CheckBox& check) {
+    auto* widget = new wxCheckBox(ParentOf(check), wxID_ANY, Shown(check.Caption()));
+    window_.Bind<CheckBoxBinder>(check, *widget);
+    return widget;
+}
+
+wxListBox* FormBuilder::Put(ListBox& list, wxSize characters, const wxString& spoken) {
+    auto* widget = new wxListBox(ParentOf(list), wxID_ANY);
+    widget->SetMinSize(SizeOf(characters));
+    window_.Bind<ListBoxBinder>(list, *widget, spoken);
+    return widget;
+}
+
+wxChoice* FormBuilder::Put(DriveList& list, const wxString& spoken) {
+    auto* widget = new wxChoice(ParentOf(list), wxID_ANY);
+    window_.Bind<DriveListBinder>(list, *widget, spoken);
+    return widget;
+}
+
+LineList* FormBuilder::Put(FolderList& list, wxSize characters, const wxString& spoken) {
+    auto* widget = new LineList(ParentOf(list), true);
+    widget->SetMinSize(SizeOf(characters));
+    window_.Bind<FolderListBinder>(list, *widget, spoken);
+    return widget;
+}
+
+LineList* FormBuilder::Put(FileList& list, wxSize characters, const wxString& spoken) {
+    auto* widget = new LineList(ParentOf(list), false);
+    widget->SetMinSize(SizeOf(characters));
+    window_.Bind<FileListBinder>(list, *widget, spoken);
+    return widget;
+}
+
+wxSizer* FormBuilder::Put(Frame& frame, wxOrientation orientation) {
+    if (frame.Caption().empty()) {
+        auto* panel = new wxPanel(ParentOf(frame));
+        frames_[&frame] = panel;
+        panel->SetSizer(new wxBoxSizer(orientation));
+        window_.Bind<FrameBinder>(frame, *panel);
+        return panel->GetSizer();
+    }
+    auto* box = new wxStaticBox(ParentOf(frame), wxID_ANY, Shown(frame.Caption()));
+    frames_[&frame] = box;
+    window_.Bind<FrameBinder>(frame, *box);
+    return new wxStaticBoxSizer(box, orientation);
+}
+
+wxWindow* FormBuilder::Line(wxOrientation orientation) {
+    return new wxStaticLine(&window_.Page(), wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                            orientation == wxHORIZONTAL ? wxLI_HORIZONTAL : wxLI_VERTICAL);
+}
+
+wxBoxSizer* FormBuilder::Content() {
+    auto* margin = new wxBoxSizer(wxVERTICAL);
+    auto* content = new wxBoxSizer(wxVERTICAL);
+    margin->Add(content, wxSizerFlags(1).Expand().Border(wxALL, 2 * Gap()));
+    window_.Page().SetSizer(margin);
+    return content;
+}
+
+}  // namespace tarvex

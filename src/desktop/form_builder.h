@@ -1,0 +1,73 @@
+#pragma once
+
+#include <map>
+#include <vector>
+
+#include <wx/choice.h>
+#include <wx/sizer.h>
+#include <wx/stattext.h>
+
+#include "desktop/glyphs.h"
+#include "desktop/line_list.h"
+#include "toolkit/drive_lists.h"
+#include "toolkit/list_box.h"
+#include "toolkit/simple_controls.h"
+
+class wxAnyButton;
+class wxCheckBox;
+class wxListBox;
+class wxRadioButton;
+class wxTextCtrl;
+
+namespace tarvex {
+
+class LabelBinder;
+class NativeForm;
+
+enum class LabelStyle { Plain, Section, Heading };
+
+// Makes the widgets of a form's controls. A control goes onto the page, or into the box of its frame, which
+// must have been put before it.
+class FormBuilder {
+  public:
+    explicit FormBuilder(NativeForm& window) : window_(window) {}
+
+    // Half the height of a line of text: the measure of all distances, so that they grow with the font.
+    int Gap() const;
+
+    wxStaticText* Put(Label& label, LabelStyle style = LabelStyle::Plain);
+    // The label in one widget for each of its parts: the last word of the caption, then the ones before it.
+    std::vector<wxStaticText*> PutInParts(Label& label, std::size_t parts);
+    // `characters` is the width, `spoken` what a screen reader calls the box.
+    wxTextCtrl* Put(TextBox& box, int characters, const wxString& spoken);
+    wxAnyButton* Put(Button& button);
+    // A small button without caption and its label, in a row; a click on the label presses the button too.
+    wxSizer* PutSmall(Button& button, Glyph glyph, Label& label);
+    wxRadioButton* Put(OptionButton& option);
+    wxCheckBox* Put(CheckBox& check);
+    wxListBox* Put(ListBox& list, wxSize characters, const wxString& spoken);
+    wxChoice* Put(DriveList& list, const wxString& spoken);
+    LineList* Put(FolderList& list, wxSize characters, const wxString& spoken);
+    LineList* Put(FileList& list, wxSize characters, const wxString& spoken);
+
+    // A frame; with a caption it has a border. What is added to the sizer stands in it.
+    wxSizer* Put(Frame& frame, wxOrientation orientation);
+    // Makes what is put next stand in the frame, although it does not belong to its control.
+    wxWindow* Inside(const Frame& frame) const;
+    void StandIn(wxWindow* parent) { parent_ = parent; }
+
+    wxWindow* Line(wxOrientation orientation);
+    // A sizer that becomes the page's, with a margin round it.
+    wxBoxSizer* Content();
+
+  private:
+    wxWindow* ParentOf(const Control& control) const;
+    wxSize SizeOf(wxSize characters) const;
+
+    NativeForm& window_;
+    wxWindow* parent_ = nullptr;
+    std::map<const Control*, wxWindow*> frames_;
+    std::map<const Control*, wxRadioButton*> none_;
+};
+
+}  // namespace tarvex

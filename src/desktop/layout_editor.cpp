@@ -1,0 +1,210 @@
+#include <wx/anybutton.h>
+#include <wx/checkbox.h>
+#include <wx/listbox.h>
+#include <wx/radiobut.h>
+#include <wx/textctrl.h>
+
+#include "desktop/form_builder.h"
+#include "desktop/layouts.h"
+#include "editor/modify_procedure.h"
+
+namespace tarvex {
+
+namespace {
+
+// The parts of the editor's window. A label and its box are told apart from the next pair by a wider gap.
+class EditorLayout {
+  public:
+    EditorLayout(ModifyProcedure& editor, NativeForm& window)
+        : editor_(editor), put_(window), gap_(put_.Gap()) {}
+
+    void LayOut();
+
+  private:
+    wxSizer* Names();
+    wxSizer* WaypointBoxes();
+    wxSizer* Identification();
+    wxSizer* Position();
+    wxSizer* Altitudes();
+    wxSizer* Restriction();
+    wxSizer* Commands();
+    wxSizer* List();
+    wxSizer* WaysOut();
+
+    void Pair(wxSizer& row, Label& label, TextBox& box, int characters, const wxString& spoken);
+    void Axis(wxFlexGridSizer& grid, Label& label, TextBox& degrees, TextBox& minutes, Frame& hemisphere,
+              OptionButton& first, OptionButton& second, const wxString& spoken);
+
+    ModifyProcedure& editor_;
+    FormBuilder put_;
+    int gap_;
+    wxSizerFlags middle_ = wxSizerFlags().CentreVertical();
+};
+
+void EditorLayout::Pair(wxSizer& row, Label& label, TextBox& box, int characters, const wxString& spoken) {
+    if (!row.IsEmpty()) row.AddSpacer(2 * gap_);
+    row.Add(put_.Put(label), middle_);
+    row.AddSpacer(gap_);
+    row.Add(put_.Put(box, characters, spoken), middle_);
+}
+
+void EditorLayout::Axis(wxFlexGridSizer& grid, Label& label, TextBox& degrees, TextBox& minutes,
+                        Frame& hemisphere, OptionButton& first, OptionButton& second,
+                        const wxString& spoken) {
+    const auto labels = put_.PutInParts(label, 3);
+    grid.Add(labels[0], middle_);
+    grid.Add(labels[1], middle_);
+    grid.Add(put_.Put(degrees, 5, spoken + " degrees"), middle_);
+    grid.Add(labels[2], middle_);
+    grid.Add(put_.Put(minutes, 10, spoken + " minutes"), middle_);
+    wxSizer* options = put_.Put(hemisphere, wxHORIZONTAL);
+    options->Add(put_.Put(first), middle_);
+    options->AddSpacer(gap_);
+    options->Add(put_.Put(second), middle_);
+    grid.Add(put_.Inside(hemisphere), wxSizerFlags().CentreVertical().Border(wxLEFT, gap_));
+}
+
+wxSizer* EditorLayout::Names() {
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    Pair(*row, editor_.ICAOLabel, editor_.AptNameText, 6, "ICAO");
+    Pair(*row, editor_.BasicNameLabel, editor_.BasicNameText, 9, "Basic Name");
+    Pair(*row, editor_.TransitionLabel1, editor_.TransitionText, 9, "Transition or Runway");
+    row->AddSpacer(2 * gap_);
+    row->Add(put_.Put(editor_.RwySpecificCheck), middle_);
+    row->AddSpacer(3 * gap_);
+    row->AddStretchSpacer();
+    row->Add(put_.Put(editor_.FilenameLabel), middle_);
+    row->AddSpacer(gap_);
+    wxStaticText* name = put_.Put(editor_.FilenameText, LabelStyle::Section);
+    name->SetMinSize({name->GetTextExtent("KWWW-WWWWWWW.WWW.wwy").x, -1});
+    row->Add(name, middle_);
+    return row;
+}
+
+wxSizer* EditorLayout::Identification() {
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    Pair(*row, editor_.FixLabel, editor_.FixNameText, 9, "Fix ID");
+    Pair(*row, editor_.Label1, editor_.NAVIDText, 6, "Navaid ID");
+    Pair(*row, editor_.Label2, editor_.FreqText, 8, "Navaid Frequency");
+    return row;
+}
+
+wxSizer* EditorLayout::Position() {
+    auto* grid = new wxFlexGridSizer(6, gap_, gap_);
+    Axis(*grid, editor_.DMLatLabel, editor_.DDMLatText, editor_.DMMLatText, editor_.Frame1,
+         editor_.NLatOption, editor_.SLatOption, "Latitude");
+    Axis(*grid, editor_.DMLongLabel, editor_.DDMLongText, editor_.DMMLongText, editor_.Frame2,
+         editor_.ELongOption, editor_.WLongOption, "Longitude");
+    return grid;
+}
+
+wxSizer* EditorLayout::Altitudes() {
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    Pair(*row, editor_.Alt1Label, editor_.Alt1Text, 7, "Altitude or Lower Altitude");
+    Pair(*row, editor_.Alt2Label, editor_.Alt2Text, 7, "Upper Altitude");
+    Pair(*row, editor_.Label4, editor_.AirspeedText, 5, "Airspeed");
+    return row;
+}
+
+wxSizer* EditorLayout::Restriction() {
+    wxSizer* box = put_.Put(editor_.Frame4, wxVERTICAL);
+    auto* grid = new wxFlexGridSizer(3, gap_ / 2, 2 * gap_);
+    for (OptionButton* option :
+         {&editor_.NoRestrictionOption, &editor_.AtOption, &editor_.AtAboveAtBelowOption,
+          &editor_.AtBelowOption, &editor_.AtAboveOption}) {
+        grid->Add(put_.Put(*option), middle_);
+    }
+    box->Add(grid, wxSizerFlags().Border(wxALL, gap_ / 2));
+    return box;
+}
+
+wxSizer* EditorLayout::WaypointBoxes() {
+    auto* column = new wxBoxSizer(wxVERTICAL);
+    column->Add(Identification());
+    column->AddSpacer(gap_);
+    column->Add(Position());
+    column->AddSpacer(gap_);
+    column->Add(Altitudes());
+    column->AddSpacer(gap_);
+    column->Add(Restriction(), wxSizerFlags().Expand());
+    return column;
+}
+
+wxSizer* EditorLayout::Commands() {
+    auto* buttons = new wxFlexGridSizer(2, gap_, gap_);
+    buttons->AddGrowableCol(0, 1);
+    buttons->AddGrowableCol(1, 1);
+    for (Button* button : {&editor_.AddWaypointCommand, &editor_.ModifyWaypointCommand,
+                           &editor_.DeleteWaypointCommand, &editor_.AddArcCommand}) {
+        buttons->Add(put_.Put(*button), wxSizerFlags().Expand());
+    }
+    auto* searches = new wxFlexGridSizer(2, gap_, 2 * gap_);
+    searches->Add(put_.PutSmall(editor_.FindNavCommand, Glyph::Navaid, editor_.Label7));
+    searches->Add(put_.PutSmall(editor_.FindFixCommand, Glyph::Fix, editor_.Label5));
+    searches->Add(put_.PutSmall(editor_.FindAirportCommand, Glyph::Airport, editor_.Label8));
+    searches->Add(put_.PutSmall(editor_.CreateWaypointCommand, Glyph::Waypoint, editor_.Label9));
+
+    auto* column = new wxBoxSizer(wxVERTICAL);
+    column->Add(put_.Put(editor_.Label3, LabelStyle::Section));
+    column->AddSpacer(gap_);
+    column->Add(buttons, wxSizerFlags().Expand());
+    column->AddSpacer(gap_);
+    column->Add(put_.Put(editor_.ClearDataCommand), wxSizerFlags().Expand());
+    column->AddSpacer(2 * gap_);
+    column->Add(searches);
+    return column;
+}
+
+wxSizer* EditorLayout::List() {
+    auto* moves = new wxGridSizer(2, 0, gap_);
+    moves->Add(put_.Put(editor_.MoveUp), wxSizerFlags().Expand());
+    moves->Add(put_.Put(editor_.MoveDown), wxSizerFlags().Expand());
+
+    auto* column = new wxBoxSizer(wxVERTICAL);
+    column->Add(put_.Put(editor_.Label6, LabelStyle::Section));
+    column->AddSpacer(gap_);
+    column->Add(put_.Put(editor_.WaypointList, {24, 8}, "List of Waypoints"), wxSizerFlags(1).Expand());
+    column->AddSpacer(gap_);
+    column->Add(moves, wxSizerFlags().Expand());
+    return column;
+}
+
+wxSizer* EditorLayout::WaysOut() {
+    auto* ways = new wxGridSizer(2, 0, gap_);
+    ways->Add(put_.Put(editor_.OopsCommand), wxSizerFlags().Expand());
+    ways->Add(put_.Put(editor_.SaveCommand), wxSizerFlags().Expand());
+    return ways;
+}
+
+void EditorLayout::LayOut() {
+    auto* upper = new wxBoxSizer(wxHORIZONTAL);
+    upper->Add(WaypointBoxes(), wxSizerFlags(1));
+    upper->Add(put_.Line(wxVERTICAL), wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT, 2 * gap_));
+    upper->Add(Commands());
+
+    // The room on the right of the list is kept free for a picture of the procedure.
+    auto* right = new wxBoxSizer(wxVERTICAL);
+    right->AddStretchSpacer();
+    right->Add(WaysOut(), wxSizerFlags().Right());
+    auto* lower = new wxBoxSizer(wxHORIZONTAL);
+    lower->Add(List(), wxSizerFlags(2).Expand());
+    lower->AddSpacer(2 * gap_);
+    lower->Add(right, wxSizerFlags(3).Expand());
+
+    auto* page = put_.Content();
+    page->Add(put_.Put(editor_.ActionLabel, LabelStyle::Heading));
+    page->AddSpacer(2 * gap_);
+    page->Add(Names(), wxSizerFlags().Expand());
+    page->Add(put_.Line(wxHORIZONTAL), wxSizerFlags().Expand().Border(wxTOP | wxBOTTOM, 2 * gap_));
+    page->Add(upper, wxSizerFlags().Expand());
+    page->Add(put_.Line(wxHORIZONTAL), wxSizerFlags().Expand().Border(wxTOP | wxBOTTOM, 2 * gap_));
+    page->Add(lower, wxSizerFlags(1).Expand());
+}
+
+}  // namespace
+
+void LayOutEditor(Form& form, NativeForm& window) {
+    EditorLayout(static_cast<ModifyProcedure&>(form), window).LayOut();
+}
+
+}  // namespace tarvex

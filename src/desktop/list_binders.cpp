@@ -1,0 +1,144 @@
+#include "desktop/list_binders.h"
+
+#include <algorithm>
+
+#include <wx/artprov.h>
+
+#include "desktop/native_form.h"
+#include "desktop/native_text.h"
+#include "desktop/window_system.h"
+
+namespace tarvex {
+
+ListBoxBinder::ListBoxBinder(NativeForm& window, ListBox& list, wxListBox& widget, const wxString& spoken)
+    : Binder(window, list, widget, spoken), list_(list), widget_(widget) {
+    widget.Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { ToDoor(); });
+}
+
+void ListBoxBinder::ToDoor() {
+    const int line = widget_.GetSelection();
+    if (line == wxNOT_FOUND) return;
+    Post([this, line](UserDoor& door) { return line < list_.ListCount() && door.PickLine(list_, line); });
+}
+
+void ListBoxBinder::ToWidget() {
+    if (shown_ != list_.Lines()) {
+        shown_ = list_.Lines();
+        wxArrayString lines;
+        for (const std::string& line : shown_) lines.Add(Shown(line));
+        widget_.Set(lines);
+    }
+    if (widget_.GetSelection() != list_.ListIndex()) {
+        widget_.SetSelection(list_.ListIndex());
+        if (list_.ListIndex() != ListBox::NoSelection) widget_.EnsureVisible(list_.ListIndex());
+    }
+    Binder::ToWidget();
+}
+
+DriveListBinder::DriveListBinder(NativeForm& window, DriveList& list, wxChoice& widget,
+                                 const wxString& spoken)
+    : Binder(window, list, widget, spoken), list_(list), widget_(widget) {
+    for (const std::string& drive : list.Drives()) widget.Append(Shown(drive));
+    widget.Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { ToDoor(); });
+}
+
+void DriveListBinder::ToDoor() {
+    const int choice = widget_.GetSelection();
+    if (choice == wxNOT_FOUND) return;
+    Post([this, choice](UserDoor& door) {
+        return door.PickDrive(list_, list_.Drives()[static_cast<std::size_t>(choice)]);
+    });
+}
+
+void DriveListBinder::ToWidget() {
+    const auto& drives = list_.Drives();
+    const auto found = std::find(drives.begin(), drives.end(), list_.Drive());
+    widget_.SetSelection(found == drives.end() ? wxNOT_FOUND : static_cast<int>(found - drives.begin()));
+    Binder::ToWidget();
+}
+
+FolderListBinder::FolderListBinder(NativeForm& window, FolderList& list, LineList& widget,
+                                   const wxString& spoken)
+    : Binder(window, list, widget, spoken),
+      list_(list),
+      widget_(widget),
+      closed_(wxArtProvider::GetBitmapBundle(wxART_FOLDER, wxART_MENU)),
+      opened_(wxArtProvider::GetBitmapBundle(wxART_FOLDER_OPEN, wxART_MENU)) {
+    widget.Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, [this](wxDataViewEvent&) { ToDoor(false); });
+    widget.Bind(wxEVT_DATAVIEW_ITEM_ACTIVATED, [this](wxDataViewEvent&) { ToDoor(true); });
+}
+
+void FolderListBinder::ToDoor(bool open) {
+    const int line = widget_.Line();
+    if (line == LineList::NoLine) return;
+    const Line chosen = lines_[static_cast<std::size_t>(line)];
+    Post([this, chosen, open](UserDoor& door) {
+        // An act before this one may have opened another folder.
+        if (Lines() != lines_) return false;
+        return open ? door.OpenFolder(list_, chosen.index) : door.PickFolder(list_, chosen.index);
+    });
+}
+
+std::vector<FolderListBinder::Line> FolderListBinder::Lines() const {
+    constexpr int Indent = 3;
+    std::vector<Line> lines;
+    std::size_t depth = 0;
+    for (int index = list_.FirstIndex(); index < list_.ListCount(); ++index) {
+        lines.push_back(
+            {index, list_.List(index),
+             wxString(' ', depth * Indent) + Shown(static_cast<const FolderList&>(list_).Name(index))});
+        if (index <= FolderList::OpenFolder) ++depth;
+    }
+    return lines;
+}
+
+void FolderListBinder::ToWidget() {
+    auto lines = Lines();
+    if (lines != lines_) {
+        lines_ = std::move(lines);
+        widget_.Put(
+            static_cast<unsigned>(lines_.size()), [this](unsigned line) { return lines_[line].text; },
+            [this](unsigned line) {
+                return lines_[line].index <= FolderList::OpenFolder ? opened_ : closed_;
+            });
+    }
+    widget_.SelectLine(list_.ListIndex() - list_.FirstIndex());
+    Binder::ToWidget();
+}
+
+FileListBinder::FileListBinder(NativeForm& window, FileList& list, LineList& widget, const wxString& spoken)
+    : Binder(window, list, widget, spoken), list_(list), widget_(widget) {
+    widget.Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
+        event.Skip();
+        const int key = event.GetKeyCode();
+        keyMoves_ = key != WXK_RETURN && key != WXK_NUMPAD_ENTER && key != WXK_SPACE;
+        RunNext([this] { keyMoves_ = false; });
+    });
+    widget.Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, [this](wxDataViewEvent&) {
+        if (!keyMoves_) ToDoor();
+    });
+    widget.Bind(wxEVT_DATAVIEW_ITEM_ACTIVATED, [this](wxDataViewEvent&) { ToDoor(); });
+}
+
+void FileListBinder::ToDoor() {
+    const int line = widget_.Line();
+    if (line == LineList::NoLine) return;
+    const std::string name = shown_[static_cast<std::size_t>(line)];
+    Post([this, name](UserDoor& door) {
+        const auto& lines = list_.Lines();
+        const auto found = std::find(lines.begin(), lines.end(), name);
+        return found != lines.end() && door.PickFile(list_, static_cast<int>(found - lines.begin()));
+    });
+}
+
+void FileListBinder::ToWidget() {
+    if (shown_ != list_.Lines()) {
+        shown_ = list_.Lines();
+        widget_.Put(static_cast<unsigned>(shown_.size()),
+                    [this](unsigned line) { return Shown(shown_[line]); });
+    }
+    widget_.SelectLine(list_.ListIndex());
+    Binder::ToWidget();
+}
+
+}  // namespace tarvex

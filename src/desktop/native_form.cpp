@@ -1,0 +1,164 @@
+#include "desktop/native_form.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+#include <wx/sizer.h>
+
+#include "desktop/desktop.h"
+#include "desktop/native_text.h"
+#include "desktop/window_system.h"
+
+namespace tarvex {
+
+namespace {
+
+struct KeyOfShortcut {
+    int code;
+    int modifiers;
+    ShortcutKey key;
+};
+
+constexpr std::array<KeyOfShortcut, 6> ShortcutKeys = {{
+    {WXK_DELETE, wxMOD_NONE, ShortcutKey::Delete},
+    {WXK_UP, wxMOD_CONTROL, ShortcutKey::CtrlUp},
+    {WXK_DOWN, wxMOD_CONTROL, ShortcutKey::CtrlDown},
+    {'S', wxMOD_CONTROL, ShortcutKey::CtrlS},
+    {WXK_RETURN, wxMOD_NONE, ShortcutKey::Enter},
+    {WXK_NUMPAD_ENTER, wxMOD_NONE, ShortcutKey::Enter},
+}};
+
+// The shortcut that the pressed key is on the form as the focus stands.
+std::optional<ShortcutKey> ShortcutOf(const wxKeyEvent& event, Form& form, const Control* focus) {
+    for (const auto& known : ShortcutKeys) {
+        if (known.code != event.GetKeyCode() || known.modifiers != event.GetModifiers()) continue;
+        for (const Shortcut& shortcut : form.Shortcuts()) {
+            if (shortcut.key == known.key && (shortcut.where == nullptr || shortcut.where == focus))
+                return known.key;
+        }
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+NativeForm::NativeForm(Desktop& desktop, Form& form, wxWindow* owner)
+    : wxFrame(owner, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
+              owner == nullptr ? wxDEFAULT_FRAME_STYLE
+                               : wxDEFAULT_FRAME_STYLE | wxFRAME_FLOAT_ON_PARENT | wxFRAME_NO_TASKBAR),
+      desktop_(desktop),
+      form_(&form),
+      page_(new wxPanel(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE)) {
+    NameForAccess(*this, form.Name(), {});
+    ShowCaption();
+    form.Observe([this] { ShowCaption(); });
+    Bind(wxEVT_CHAR_HOOK, &NativeForm::OnKey, this);
+    Bind(wxEVT_CHILD_FOCUS, &NativeForm::OnArrival, this);
+    Bind(wxEVT_ACTIVATE, &NativeForm::OnActivate, this);
+    Bind(wxEVT_CLOSE_WINDOW, &NativeForm::OnClose, this);
+}
+
+NativeForm::~NativeForm() {
+    // Widgets tell their binders of their end.
+    form_ = nullptr;
+    DestroyChildren();
+}
+
+void NativeForm::ShowCaption() {
+    // A window without any title is shown as unnamed by some window managers.
+    SetTitle(form_->Caption().empty() ? wxString(" ") : Shown(form_->Caption()));
+}
+
+void NativeForm::Detach() {
+    for (Control* control : form_->Controls()) control->Observe(nullptr);
+    form_->Observe(nullptr);
+    form_ = nullptr;
+    touched_.clear();
+}
+
+Binder* NativeForm::BinderOf(const Control& control) const {
+    const auto found = std::find_if(binders_.begin(), binders_.end(),
+                                    [&control](const auto& binder) { return &binder->Bound() == &control; });
+    return found == binders_.end() ? nullptr : found->get();
+}
+
+void NativeForm::TouchAll() {
+    for (const auto& binder : binders_) touched_.insert(binder.get());
+}
+
+void NativeForm::Flush() {
+    const Desktop::Mute mute(desktop_);
+    for (Binder* binder : std::exchange(touched_, {})) binder->ToWidget();
+    if (std::exchange(layOut_, false)) page_->Layout();
+}
+
+void NativeForm::PutFocusOn(const Control& control, bool selectAll) {
+    Binder* binder = BinderOf(control);
+    if (binder == nullptr) return;
+    const Desktop::Mute mute(desktop_);
+    arrivedAt_ = &control;
+    if (!HoldsFocusOfWindow(binder->Widget())) binder->Widget().SetFocus();
+    if (selectAll) binder->SelectAll();
+}
+
+void NativeForm::Post(NativeAct::Kind kind, Control* control, std::function<bool(UserDoor&)> carry) {
+    if (form_ == nullptr || desktop_.Muted()) return;
+    desktop_.Post(
+        {kind, form_, control, [this, carry = std::move(carry)] { return carry(desktop_.Door()); }});
+}
+
+void NativeForm::OnKey(wxKeyEvent& event) {
+    if (form_ == nullptr) return;
+    if (event.GetKeyCode() == WXK_TAB && (event.GetModifiers() & ~wxMOD_SHIFT) == 0) {
+        const bool forward = !event.ShiftDown();
+        Post(NativeAct::Kind::Act, nullptr, [this, forward](UserDoor& door) {
+            desktop_.movedByKey_ = true;
+            return door.Tab(*form_, forward);
+        });
+        return;
+    }
+    if (event.GetKeyCode() == WXK_ESCAPE && event.GetModifiers() == wxMOD_NONE &&
+        form_->WayOut() != nullptr) {
+        Post(NativeAct::Kind::Act, nullptr, [this](UserDoor& door) { return door.Escape(*form_); });
+        return;
+    }
+    if (const auto key = ShortcutOf(event, *form_, desktop_.FocusOfProgram())) {
+        Post(NativeAct::Kind::Act, nullptr, [this, key](UserDoor& door) { return door.Key(*form_, *key); });
+        return;
+    }
+    event.Skip();
+}
+
+void NativeForm::OnArrival(wxChildFocusEvent& event) {
+    event.Skip();
+    if (form_ == nullptr) return;
+    for (wxWindow* widget = event.GetWindow(); widget != nullptr && widget != page_;
+         widget = widget->GetParent()) {
+        const auto found = std::find_if(binders_.begin(), binders_.end(),
+                                        [widget](const auto& b) { return &b->Widget() == widget; });
+        if (found == binders_.end() || !(*found)->Bound().TakesFocus()) continue;
+        // The same again: the window only came back to the front.
+        if (std::exchange(arrivedAt_, &(*found)->Bound()) != &(*found)->Bound()) (*found)->Arrive();
+        return;
+    }
+}
+
+void NativeForm::OnActivate(wxActivateEvent& event) {
+    event.Skip();
+    if (form_ != nullptr && event.GetActive()) desktop_.ActivatedByUser(*this);
+}
+
+void NativeForm::OnClose(wxCloseEvent& event) {
+    if (form_ == nullptr) {
+        event.Skip();
+        return;
+    }
+    event.Veto();
+    Post(NativeAct::Kind::Act, nullptr, [this](UserDoor&) {
+        desktop_.CloseByUser(*form_);
+        return true;
+    });
+}
+
+}  // namespace tarvex

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <set>
+#include <utility>
+#include <vector>
+
+#include <wx/frame.h>
+#include <wx/panel.h>
+
+#include "desktop/binder.h"
+#include "toolkit/form.h"
+
+namespace tarvex {
+
+class Desktop;
+
+// The native window of one form. It outlives its form by a little: from Detach on it touches nothing of the
+// program any more.
+class NativeForm final : public wxFrame {
+  public:
+    NativeForm(Desktop& desktop, Form& form, wxWindow* owner);
+    ~NativeForm() override;
+
+    // Null once the form is on its way out.
+    Form* Shows() const { return form_; }
+    void Detach();
+
+    // All widgets stand on the page.
+    wxPanel& Page() const { return *page_; }
+    template <class BinderType, class... Args>
+    BinderType& Bind(Args&&... args) {
+        auto binder = std::make_unique<BinderType>(*this, std::forward<Args>(args)...);
+        BinderType& bound = *binder;
+        binders_.push_back(std::move(binder));
+        return bound;
+    }
+    using wxFrame::Bind;
+    // Null for a control that the window does not show.
+    Binder* BinderOf(const Control& control) const;
+
+    // The control has changed, or its widget by the user's hand: they are brought in line at the next Flush.
+    void Touch(Binder& binder) { touched_.insert(&binder); }
+    void TouchAll();
+    // What stands in the window has changed its size.
+    void LayOutAgain() { layOut_ = true; }
+    void Flush();
+
+    // Puts the focus within the window on the widget of the control.
+    void PutFocusOn(const Control& control, bool selectAll);
+    // No control has the focus: whichever the user goes to is a new one.
+    void ForgetFocus() { arrivedAt_ = nullptr; }
+
+    // Something that the user did. `control` is null when it concerns the whole form.
+    void Post(NativeAct::Kind kind, Control* control, std::function<bool(UserDoor&)> carry);
+
+  private:
+    void OnKey(wxKeyEvent& event);
+    void OnArrival(wxChildFocusEvent& event);
+    void OnActivate(wxActivateEvent& event);
+    void OnClose(wxCloseEvent& event);
+    void ShowCaption();
+
+    Desktop& desktop_;
+    Form* form_;
+    wxPanel* page_;
+    std::vector<std::unique_ptr<Binder>> binders_;
+    std::set<Binder*> touched_;
+    const Control* arrivedAt_ = nullptr;  // whose widget has the focus within the window
+    bool layOut_ = false;
+};
+
+}  // namespace tarvex

@@ -1,0 +1,85 @@
+#include "desktop/window_system.h"
+
+#include <utility>
+
+#include <wx/app.h>
+
+#ifdef __WXGTK__
+#include <gtk/gtk.h>
+#endif
+
+namespace tarvex {
+
+#ifdef __WXGTK__
+
+namespace {
+
+gboolean RunTask(gpointer data) {
+    (*static_cast<std::function<void()>*>(data))();
+    return G_SOURCE_REMOVE;
+}
+
+void DeleteTask(gpointer data) {
+    delete static_cast<std::function<void()>*>(data);
+}
+
+void FindList(GtkWidget* widget, gpointer found) {
+    auto** list = static_cast<GtkWidget**>(found);
+    if (*list != nullptr) return;
+    if (GTK_IS_TREE_VIEW(widget)) {
+        *list = widget;
+    } else if (GTK_IS_CONTAINER(widget)) {
+        gtk_container_foreach(GTK_CONTAINER(widget), FindList, found);
+    }
+}
+
+// The widget that the user deals with: of a scrolled list the list.
+GtkWidget* Core(const wxWindow& widget) {
+    GtkWidget* outer = widget.GetHandle();
+    if (!GTK_IS_SCROLLED_WINDOW(outer)) return outer;
+    GtkWidget* list = nullptr;
+    FindList(outer, &list);
+    return list != nullptr ? list : outer;
+}
+
+}  // namespace
+
+void RunNext(std::function<void()> task) {
+    g_idle_add_full(G_PRIORITY_HIGH, RunTask, new std::function<void()>(std::move(task)), DeleteTask);
+}
+
+void NameForAccess(wxWindow& widget, const std::string& id, const wxString& spoken) {
+    AtkObject* access = gtk_widget_get_accessible(Core(widget));
+    if (access == nullptr) return;
+    atk_object_set_accessible_id(access, id.c_str());
+    if (!spoken.empty()) atk_object_set_name(access, spoken.utf8_str());
+}
+
+bool HoldsFocusOfWindow(const wxWindow& widget) {
+    GtkWidget* own = widget.GetHandle();
+    GtkWidget* window = gtk_widget_get_toplevel(own);
+    if (!GTK_IS_WINDOW(window)) return false;
+    GtkWidget* focus = gtk_window_get_focus(GTK_WINDOW(window));
+    return focus != nullptr && (focus == own || gtk_widget_is_ancestor(focus, own));
+}
+
+#else
+
+void RunNext(std::function<void()> task) {
+    wxTheApp->CallAfter(std::move(task));
+}
+
+void NameForAccess(wxWindow& widget, const std::string& id, const wxString&) {
+    widget.SetName(id);
+}
+
+bool HoldsFocusOfWindow(const wxWindow& widget) {
+    for (const wxWindow* focus = wxWindow::FindFocus(); focus != nullptr; focus = focus->GetParent()) {
+        if (focus == &widget) return true;
+    }
+    return false;
+}
+
+#endif
+
+}  // namespace tarvex
