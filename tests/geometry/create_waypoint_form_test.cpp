@@ -1,0 +1,148 @@
+#include "support/tool_road.h"
+
+namespace tarvex::testing {
+namespace {
+
+constexpr const char* NumbersOnly = "Enter only numbers please.\r\n                       Please correct.";
+constexpr const char* CourseTooLarge =
+    "Magnetic course must be no more than 360.\r\n                       Please correct.";
+constexpr const char* NoCourse = "You must type in a Ture Course.\r\n                Please correct.";
+constexpr const char* NoDistance = "You must type in a Distance.\r\n          Please correct.";
+constexpr const char* NoWaypointID = "You must type in a Waypoint ID.\r\n            Please correct.";
+constexpr const char* NoStartPoint = "You must pick a starting point.\r\n            Please correct.";
+constexpr const char* ReachesPole =
+    "This distance reaches or passes a pole.\r\n                  Please correct.";
+
+class DerivedWaypoint : public ToolRoad {
+  protected:
+    DerivedWaypoint() {
+        PutFix("START", "33.5", "-117.25");
+        PutFix("SOUTH", "-0.5", "-0.25");
+        PutFix("NORTH", "0.25", "0.25");
+        PutFix("ZERO", "0", "0");
+        CreateDP();
+        user->Presses(Editor().CreateWaypointCommand);
+    }
+
+    // The editor's position: hemispheres, degrees, minutes.
+    std::string Position() {
+        ModifyProcedure& editor = Editor();
+        return (editor.NLatOption.Value() ? "N" : "S") + editor.DDMLatText.Text() + " " +
+               editor.DMMLatText.Text() + (editor.ELongOption.Value() ? " E" : " W") +
+               editor.DDMLongText.Text() + " " + editor.DMMLongText.Text();
+    }
+};
+
+TEST_F(DerivedWaypoint, BoxesAreCheckedWhenTheFocusLeaves) {
+    const struct {
+        TextBox CreateWaypointForm::*box;
+        const char *text, *complaint;
+    } cases[] = {
+        {&CreateWaypointForm::TrueCourseText, "", ""},
+        {&CreateWaypointForm::TrueCourseText, "360", ""},
+        {&CreateWaypointForm::TrueCourseText, "361", CourseTooLarge},
+        {&CreateWaypointForm::TrueCourseText, "99x", NumbersOnly},
+        {&CreateWaypointForm::DistText, "9999", ""},
+        {&CreateWaypointForm::DistText, "1nm", NumbersOnly},
+        {&CreateWaypointForm::WaypointIDText, "a b", ""},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.text);
+        TextBox& box = Deriving().*c.box;
+        user->Types(box, c.text);
+        user->MovesTo(Deriving().NavaidCommand);
+        if (*c.complaint == '\0') {
+            ExpectSilence();
+            continue;
+        }
+        ExpectComplaint(c.complaint, box.Name());
+        user->Types(box, "");
+    }
+}
+
+TEST_F(DerivedWaypoint, TransferAsksForWhatIsMissingInOrder) {
+    const struct {
+        const char *course, *distance, *name, *complaint, *focus;
+    } steps[] = {
+        {"", "", "", NoCourse, "TrueCourseText"},
+        {"90", "", "", NoDistance, "DistText"},
+        {"", "10", "", NoWaypointID, "WaypointIDText"},
+        {"", "", "abc", NoStartPoint, "TransferCommand"},
+    };
+    for (const auto& s : steps) {
+        FillDerived(s.course, s.distance, s.name);
+        user->Presses(Deriving().TransferCommand);
+        ExpectComplaint(s.complaint, s.focus);
+        EXPECT_EQ(Editor().FixNameText.Text() + Editor().DDMLatText.Text(), "");
+    }
+    EXPECT_TRUE(program->createWaypointForm.IsLoaded());
+}
+
+TEST_F(DerivedWaypoint, FillsTheBoxesWhateverWasSearchedInBetween) {
+    Transfer(Deriving().FixCommand, "START");
+    State().SearchKind = "A";
+    FillDerived("90", "10", "abc12");
+    user->Presses(Deriving().TransferCommand);
+    EXPECT_FALSE(program->createWaypointForm.IsLoaded());
+    EXPECT_EQ(Editor().FixNameText.Text(), "ABC12");
+    EXPECT_EQ(Position(), "N33 30. W117 3.007951");
+    EXPECT_EQ(State().WaypointCount, 0);
+    EXPECT_EQ(State().StartLong, -117.25);
+    ExpectSilence();
+}
+
+TEST_F(DerivedWaypoint, HemispheresFollowTheResult) {
+    const struct {
+        const char *start, *course, *distance, *position;
+    } cases[] = {
+        {"START", "360", "60", "N34 30. W117 15."},
+        {"START", "0", "60", "N34 30. W117 15."},
+        {"SOUTH", "0", "60", "N0 30. W0 15."},
+        {"SOUTH", "0", "30", "N0 . W0 15."},
+        {"SOUTH", "180", "30", "S1 . W0 15."},
+        {"NORTH", "180", "60", "S0 45. E0 15."},
+        {"NORTH", "270", "30", "N0 15. W0 15.000286"},
+        {"ZERO", "90", "30", "N0 . E0 30."},
+        {"ZERO", "0", "0", "N0 . W0 ."},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(std::string(c.start) + " " + c.course);
+        user->Presses(Editor().CreateWaypointCommand);
+        Transfer(Deriving().FixCommand, c.start);
+        FillDerived(c.course, c.distance, "X");
+        user->Presses(Deriving().TransferCommand);
+        EXPECT_EQ(Position(), c.position);
+    }
+    ExpectSilence();
+}
+
+TEST_F(DerivedWaypoint, PolesAreOutOfReachAndTheInputStays) {
+    Transfer(Deriving().FixCommand, "START");
+    const std::string start = Position();
+    FillDerived("0", "3390", "POLE");
+    for (const char* distance : {"3390", "9999", "9e99"}) {
+        user->Types(Deriving().DistText, distance);
+        user->Presses(Deriving().TransferCommand);
+        ExpectComplaint(ReachesPole, "TransferCommand");
+        EXPECT_EQ(Position(), start);
+        EXPECT_EQ(Editor().FixNameText.Text(), "");
+    }
+    user->Types(Deriving().DistText, "3389");
+    user->Presses(Deriving().TransferCommand);
+    EXPECT_EQ(Position(), "N89 59. W117 15.");
+    ExpectSilence();
+}
+
+TEST_F(DerivedWaypoint, GoingBackEmptiesTheEditorsBoxes) {
+    Transfer(Deriving().FixCommand, "START");
+    EXPECT_NE(Editor().DDMLatText.Text(), "");
+    user->Presses(Deriving().Command1);
+    EXPECT_FALSE(program->createWaypointForm.IsLoaded());
+    EXPECT_EQ(Editor().DDMLatText.Text(), "");
+    user->Presses(Editor().CreateWaypointCommand);
+    EXPECT_EQ(State().StartPointSelected, False);
+    EXPECT_TRUE(Deriving().FixCommand.Enabled());
+}
+
+}  // namespace
+}  // namespace tarvex::testing
