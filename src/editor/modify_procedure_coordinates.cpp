@@ -7,12 +7,7 @@ namespace tarvex {
 namespace {
 
 void LeaveBox(Program& program, TextBox& box, std::string_view complaint, Flag& edited) {
-    if (!complaint.empty()) {
-        program.Ask({.prompt = std::string(complaint)});
-        box.SetFocus();
-    } else if (!box.Text().empty()) {
-        edited = True;
-    }
+    if (!program.Complain(complaint, box) && !box.Text().empty()) edited = True;
 }
 
 }  // namespace

@@ -12,9 +12,7 @@ void PutIntoCapitals(TextBox& box) {
 }
 
 void RequireNumber(Program& program, TextBox& box) {
-    if (box.Text().empty() || IsNumberText(box.Text())) return;
-    program.Ask({.prompt = std::string(EnterOnlyNumbers)});
-    box.SetFocus();
+    program.Complain(NumberComplaint(box.Text()), box);
 }
 
 void ShowOneAltitude(ModifyProcedure& form) {

@@ -30,10 +30,6 @@ std::string TooManyRows(std::size_t needed, std::size_t free) {
            std::to_string(MaxWaypoints) + " are free.";
 }
 
-std::string_view NumberComplaint(std::string_view text) {
-    return text.empty() || IsNumberText(text) ? std::string_view() : EnterOnlyNumbers;
-}
-
 std::string_view RadialComplaint(std::string_view text) {
     return LeadingNumber(text) > 360 ? RadialTooLarge : NumberComplaint(text);
 }

@@ -8,11 +8,11 @@ namespace {
 
 constexpr std::string_view SixtyMinutes = "Minutes must be less than 60.\r\n            Please correct.";
 
+}  // namespace
+
 std::string_view NumberComplaint(std::string_view text) {
     return text.empty() || IsNumberText(text) ? std::string_view() : EnterOnlyNumbers;
 }
-
-}  // namespace
 
 std::string_view DegreesComplaint(const CoordinateAxis& axis, std::string_view degrees) {
     if (LeadingNumber(degrees) > axis.mostDegrees) return axis.tooManyDegrees;
