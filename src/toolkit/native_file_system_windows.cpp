@@ -212,11 +212,10 @@ std::string WindowsFileSystem::CurrentFolder() {
 
 std::string WindowsFileSystem::FolderOfDrive(const std::string& drive) {
     RequireWhole(drive);
-    // The system keeps a current folder for each drive, which the letter and colon alone stand for.
-    const std::string letter = drive.substr(0, 2);
-    std::string folder = Filled([&letter](DWORD size, char* buffer) {
-        return GetFullPathNameA(letter.c_str(), size, buffer, nullptr);
-    });
+    // The system keeps a current folder for each drive, which a path without a root starts from.
+    const std::string here = drive.substr(0, 2) + ".";
+    std::string folder = Filled(
+        [&here](DWORD size, char* buffer) { return GetFullPathNameA(here.c_str(), size, buffer, nullptr); });
     if (IsFolder(folder)) return folder;
     if (!IsFolder(drive)) throw SystemFailure(ERROR_INVALID_DRIVE, drive, false);
     return drive;
