@@ -95,8 +95,10 @@ TEST_F(SetUp, EachModeHasItsCaptionsAndItsNameBoxes) {
         EXPECT_FALSE(editor.Alt2Label.Enabled());
         EXPECT_EQ(editor.Alt2Text.BackColor(), Grey);
         EXPECT_TRUE(editor.NoRestrictionOption.Value());
-        user->Presses(editor.OopsCommand);
-        EXPECT_EQ(editor.FilenameText.Caption(), "");
+        program->host.RunEvent([&editor] {
+            editor.OopsCommand_Click();
+            EXPECT_EQ(editor.FilenameText.Caption(), "");
+        });
         EXPECT_EQ(program->host.Visible(), std::vector<Form*>{&Menu()});
     }
     ExpectSilence();
