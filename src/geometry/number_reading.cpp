@@ -143,9 +143,19 @@ std::optional<double> WholeTextNumber(std::string_view text) {
     return negative && value != 0 ? -value : value;
 }
 
+// A plain whole number between blanks, which most fields of the navigation tables hold.
+std::optional<double> PlainWholeNumber(std::string_view text) {
+    text = Trim(text);
+    std::uint32_t number = 0;
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (read.ec != std::errc() || read.ptr != text.data() + text.size()) return std::nullopt;
+    return number;
+}
+
 }  // namespace
 
 double LeadingNumber(std::string_view text) {
+    if (const auto plain = PlainWholeNumber(text)) return *plain;
     const std::size_t start = text.find_first_not_of(SkippedCharacters);
     if (start == std::string_view::npos) return 0;
     text = text.substr(start, text.find_last_not_of(SkippedCharacters) + 1 - start);

@@ -1,6 +1,8 @@
 #include "navigation/load_navigation_data.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
 #include <cstring>
 #include <limits>
 
@@ -15,111 +17,128 @@ namespace {
 constexpr std::size_t IDColumn = 25;  // in all three files
 constexpr std::size_t FixLatColumn = 30;
 constexpr std::size_t FixLongColumn = 40;
+constexpr std::size_t FixColumns = 50;
 constexpr std::size_t NavaidLatColumn = 34;
 constexpr std::size_t AirportLatColumn = 40;
 constexpr std::size_t AirportLongColumn = 50;
 constexpr std::size_t AirportElevationColumn = 71;
 constexpr std::size_t AirportElevationWidth = 5;
+constexpr std::size_t AirportColumns = 75;
 constexpr std::size_t NavaidDecimals = 6;
 constexpr char CommentMark = ';';
+
+// The first CR or LF, or `end`. Lines are short: eight characters at a time in plain arithmetic find their
+// ends faster than a library call for each line does.
+const char* FindLineEnd(const char* at, const char* end) {
+    using Word = std::uint64_t;
+    constexpr Word EachByte = 0x0101010101010101;
+    static_assert(std::endian::native == std::endian::little, "the first character is the lowest byte");
+    while (end - at >= static_cast<std::ptrdiff_t>(sizeof(Word))) {
+        Word word = 0;
+        std::memcpy(&word, at, sizeof word);
+        // The high bit of the lowest byte that is CR or below.
+        const Word low = (word - EachByte * ('\r' + 1)) & ~word & (EachByte * 0x80);
+        if (low == 0) {
+            at += sizeof word;
+            continue;
+        }
+        at += std::countr_zero(low) / 8;
+        if (*at == '\r' || *at == '\n') return at;
+        ++at;
+    }
+    while (at != end && *at != '\r' && *at != '\n') ++at;
+    return at;
+}
 
 // The lines of a text, each ended by CR, CR LF or LF; the last one may lack its end.
 class LineCursor {
   public:
-    explicit LineCursor(std::string_view text)
-        : position_(text.data()),
-          end_(text.data() + text.size()),
-          nextCR_(FindNext('\r')),
-          nextLF_(FindNext('\n')) {}
+    explicit LineCursor(std::string_view text) : position_(text.data()), end_(text.data() + text.size()) {}
 
     bool Next(std::string_view& line) {
         if (position_ == end_) return false;
-        // Each mark is looked for only when the last one found is used up: a file with one kind of line end
-        // is searched for the other kind once.
-        if (nextCR_ < position_) nextCR_ = FindNext('\r');
-        if (nextLF_ < position_) nextLF_ = FindNext('\n');
-        const char* lineEnd = std::min(nextCR_, nextLF_);
+        const char* const lineEnd = FindLineEnd(position_, end_);
         line = {position_, static_cast<std::size_t>(lineEnd - position_)};
         ++number_;
         position_ = lineEnd;
+        if (end_ - lineEnd >= 2 && lineEnd[0] == '\r' && lineEnd[1] == '\n') ++position_;
         if (position_ != end_) ++position_;
-        if (lineEnd == nextCR_ && nextLF_ == position_ && position_ != end_) ++position_;
         return true;
     }
 
     std::size_t Number() const { return number_; }  // of the line taken last, from 1
 
   private:
-    const char* FindNext(char mark) const {
-        const auto rest = static_cast<std::size_t>(end_ - position_);
-        const void* found = rest == 0 ? nullptr : std::memchr(position_, mark, rest);
-        return found == nullptr ? end_ : static_cast<const char*>(found);
-    }
-
     const char* position_;
     const char* end_;
-    const char* nextCR_;
-    const char* nextLF_;
     std::size_t number_ = 0;
 };
 
-// What a line holds from a column on, as far as it goes.
-std::string_view Columns(std::string_view line, std::size_t column, std::size_t width) {
-    return line.size() < column ? std::string_view() : line.substr(column - 1, width);
-}
-
+// The first `Width` columns of a line, a shorter one padded with blanks.
 template <std::size_t Width>
-void Take(FixedField<Width>& field, std::string_view line, std::size_t column) {
-    if (line.size() >= column - 1 + Width) {
-        field.Assign({line.data() + column - 1, Width});  // a constant width copies much faster
-    } else {
-        field.Assign(Columns(line, column, Width));
+class PaddedLine {
+  public:
+    explicit PaddedLine(std::string_view line) : columns_(line.data()) {
+        if (line.size() >= Width) [[likely]]
+            return;
+        std::fill(std::copy(line.begin(), line.end(), padding_.begin()), padding_.end(), ' ');
+        columns_ = padding_.data();
     }
-}
+
+    std::string_view Columns(std::size_t column, std::size_t width) const {
+        return {columns_ + column - 1, width};
+    }
+
+    template <std::size_t FieldWidth>
+    void Copy(std::size_t column, FixedField<FieldWidth>& field) const {
+        field.Assign(Columns(column, FieldWidth));
+    }
+
+  private:
+    const char* columns_;
+    std::array<char, Width> padding_;
+};
 
 void ReadFix(std::string_view line, FixRecord& fix) {
-    Take(fix.FixID, line, IDColumn);
-    Take(fix.FixLat, line, FixLatColumn);
-    Take(fix.FixLong, line, FixLongColumn);
+    const PaddedLine<FixColumns> columns(line);
+    columns.Copy(IDColumn, fix.FixID);
+    columns.Copy(FixLatColumn, fix.FixLat);
+    columns.Copy(FixLongColumn, fix.FixLong);
 }
 
 // The column of the last decimal of the number whose point is the first at or after `column`.
 std::size_t LastDecimal(std::string_view line, std::size_t column, const char* coordinate) {
     const std::size_t point = line.find('.', column - 1);
     if (point == std::string_view::npos) {
-        throw Failure(BadArgument, std::string("no decimal point in the ") + coordinate);
+        throw Failure(BadArgument,
+                      "no decimal point from column " + std::to_string(column) + " on, in the " + coordinate);
     }
     return point + 1 + NavaidDecimals;
 }
 
-// The coordinates have no fixed columns: only their decimals have a fixed width.
+// The coordinates have no fixed columns: only their decimals have a fixed width. The frequency ends one
+// before the end of the line.
 void ReadNavaid(std::string_view line, NavaidRecord& navaid) {
+    constexpr std::size_t frequencyWidth = 6;
     const std::size_t latEnd = LastDecimal(line, NavaidLatColumn, "latitude");
     const std::size_t longEnd = LastDecimal(line, latEnd, "longitude");
-    navaid.NavaidLat.Assign(Columns(line, NavaidLatColumn, latEnd - NavaidLatColumn + 1));
-    navaid.NavaidLong.Assign(Columns(line, latEnd + 1, longEnd - latEnd));
-    Take(navaid.NavaidFreq, line, line.size() - navaid.NavaidFreq.View().size());
-    Take(navaid.NavaidID, line, IDColumn);
+    navaid.NavaidID.Assign(line.substr(IDColumn - 1));
+    navaid.NavaidFreq.Assign(line.substr(line.size() - 1 - frequencyWidth, frequencyWidth));
+    navaid.NavaidLat.Assign(line.substr(NavaidLatColumn - 1, latEnd - NavaidLatColumn + 1));
+    navaid.NavaidLong.Assign(line.substr(latEnd, longEnd - latEnd));
 }
 
 void ReadAirport(std::string_view line, AirportRecord& airport) {
-    Take(airport.AirportID, line, IDColumn);
-    Take(airport.AirportLat, line, AirportLatColumn);
-    Take(airport.AirportLong, line, AirportLongColumn);
+    const PaddedLine<AirportColumns> columns(line);
+    columns.Copy(IDColumn, airport.AirportID);
+    columns.Copy(AirportLatColumn, airport.AirportLat);
+    columns.Copy(AirportLongColumn, airport.AirportLong);
     airport.AirportElevation =
-        WholeNumber16(LeadingNumber(Columns(line, AirportElevationColumn, AirportElevationWidth)));
+        WholeNumber16(LeadingNumber(columns.Columns(AirportElevationColumn, AirportElevationWidth)));
 }
 
-template <class Record>
-struct Table {
-    Record* rows;
-    std::size_t capacity;
-    void (*readRecord)(std::string_view line, Record& record);
-};
-
-// Returns the number of entries stored.
-template <class Record>
-std::size_t FillTable(FileSystem& files, const std::string& path, Table<Record> table,
+template <auto ReadRecord, class Record>
+std::size_t FillTable(FileSystem& files, const std::string& path, Record* table, std::size_t capacity,
                       std::vector<LeftOutEntries>& leftOut) {
     const FileText text = files.Read(path);
     LineCursor lines(text.View());
@@ -127,14 +146,14 @@ std::size_t FillTable(FileSystem& files, const std::string& path, Table<Record> 
     try {
         for (std::string_view line; lines.Next(line);) {
             if (line.starts_with(CommentMark)) continue;
-            if (entries < table.capacity) table.readRecord(line, table.rows[entries]);
+            if (entries < capacity) ReadRecord(line, table[entries]);
             ++entries;
         }
     } catch (const Failure& failure) {
         throw Failure(failure.Number(),
                       path + ", line " + std::to_string(lines.Number()) + ": " + failure.Reason());
     }
-    const std::size_t stored = std::min(entries, table.capacity);
+    const std::size_t stored = std::min(entries, capacity);
     if (stored < entries) leftOut.push_back({path, entries - stored});
     return stored;
 }
@@ -156,12 +175,10 @@ std::vector<LeftOutEntries> LoadNavigationData(FileSystem& files, const std::str
     tables.FixCount = tables.AirportCount = -1;
     tables.NavaidCount = -1;
     std::vector<LeftOutEntries> leftOut;
-    const std::size_t fixes =
-        FillTable<FixRecord>(files, path(0), {tables.FixTable.get(), MaxFixes, ReadFix}, leftOut);
-    const std::size_t navaids =
-        FillTable<NavaidRecord>(files, path(1), {tables.NavaidTable.get(), MaxNavaids, ReadNavaid}, leftOut);
-    const std::size_t airports = FillTable<AirportRecord>(
-        files, path(2), {tables.AirportTable.get(), MaxAirports, ReadAirport}, leftOut);
+    const auto fixes = FillTable<ReadFix>(files, path(0), tables.FixTable.get(), MaxFixes, leftOut);
+    const auto navaids = FillTable<ReadNavaid>(files, path(1), tables.NavaidTable.get(), MaxNavaids, leftOut);
+    const auto airports =
+        FillTable<ReadAirport>(files, path(2), tables.AirportTable.get(), MaxAirports, leftOut);
     tables.FixCount = LastIndex<std::int32_t>(fixes);
     tables.NavaidCount = LastIndex<std::int16_t>(navaids);
     tables.AirportCount = LastIndex<std::int32_t>(airports);
