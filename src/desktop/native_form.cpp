@@ -8,6 +8,7 @@
 
 #include "desktop/desktop.h"
 #include "desktop/native_text.h"
+#include "desktop/program_icon.h"
 #include "desktop/window_system.h"
 
 namespace tarvex {
@@ -51,6 +52,7 @@ NativeForm::NativeForm(Desktop& desktop, Form& form, wxWindow* owner)
       form_(&form),
       page_(new wxPanel(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE)) {
     NameForAccess(*this, form.Name(), {});
+    SetIcons(ProgramIcons());
     ShowCaption();
     form.Observe([this] { ShowCaption(); });
     Bind(wxEVT_CHAR_HOOK, &NativeForm::OnKey, this);

@@ -1,0 +1,31 @@
+#include "desktop/program_icon.h"
+
+#ifndef __WXMSW__
+#include <wx/bitmap.h>
+#include <wx/image.h>
+#include <wx/mstream.h>
+
+#include "tarvex_icon.h"
+#endif
+
+namespace tarvex {
+
+#ifdef __WXMSW__
+wxIconBundle ProgramIcons() {
+    return wxIconBundle("tarvex", static_cast<WXHINSTANCE>(nullptr));
+}
+#else
+wxIconBundle ProgramIcons() {
+    if (wxImage::FindHandler(wxBITMAP_TYPE_PNG) == nullptr) wxImage::AddHandler(new wxPNGHandler);
+    wxIconBundle icons;
+    for (const auto& png : icon::Sizes) {
+        wxMemoryInputStream bytes(png.bytes, png.size);
+        wxIcon icon;
+        icon.CopyFromBitmap(wxBitmap(wxImage(bytes, wxBITMAP_TYPE_PNG)));
+        icons.AddIcon(icon);
+    }
+    return icons;
+}
+#endif
+
+}  // namespace tarvex
