@@ -1,5 +1,6 @@
 #include "geometry/create_waypoint_form.h"
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <utility>

@@ -1,6 +1,7 @@
 #include "navigation/find_waypoint_form.h"
 
 #include <cmath>
+#include <initializer_list>
 #include <utility>
 #include <vector>
 
