@@ -237,7 +237,7 @@ TEST(RandomUser, LeavesTheEditorInOrderWhateverHeDoes) {
     TestServices services;
     services.PutSimulator();
     PutNavigationData(services);
-    Chance chance(4);
+    Chance chance(3);
     RandomMessageBox messages(chance);
     Program program({services.files, services.registry, services.clock, messages, "C:\\Tarvex"});
     program.Start();

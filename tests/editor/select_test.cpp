@@ -136,10 +136,11 @@ TEST_F(Selecting, AirspeedThatIsNoNumberComplainsAtOnce) {
 TEST_F(Selecting, PositionOutOfRangeComplainsAndMarksNothing) {
     ModifyProcedure& editor = OpenDP("KXYZ-DEMO1.wsd", "W,ALPHA,,0,95.5,118,0,0,0,5000,1,\r\n");
     user->PicksLine(editor.WaypointList, 0);
-    const auto messages = services.messages.Take();
-    ASSERT_FALSE(messages.empty());
-    EXPECT_EQ(messages.front().prompt,
-              "There are no Latitude values greater than 90.\r\n                       Please correct.");
+    // Every further move of the focus meets the same rule again.
+    const Message complaint{
+        .prompt = "There are no Latitude values greater than 90.\r\n                       Please correct.",
+        .title = "Tarvex 2.35"};
+    EXPECT_EQ(services.messages.Take(), std::vector(3, complaint));
     EXPECT_EQ(user->FocusName(), "DDMLatText");
     EXPECT_EQ(editor.LatEdited, False);
     EXPECT_EQ(editor.LongEdited, False);

@@ -27,7 +27,7 @@ MessageAnswer RandomMessageBox::Show(const Message& message) {
 }
 
 RandomUser::Act RandomUser::Next() {
-    if (plan_.empty() && chance_.Percent(10)) Plan();
+    if (plan_.empty() && chance_.Percent(15)) Plan();
     if (!plan_.empty() && chance_.Percent(90)) return FollowPlan();
 
     Form* form = ChooseForm();
@@ -56,8 +56,8 @@ Form* RandomUser::ChooseForm() {
 Control* RandomUser::ChooseControl(Form& form) {
     Control* focused = program_.host.GetFocus().Current();
     const bool stays = focused != nullptr && &focused->Owner() == &form && chance_.Percent(25);
-    Control* control = stays ? focused : chance_.Of(form.Controls());
-    if (!control->TakesFocus()) return nullptr;
+    Control* control = stays ? focused : nullptr;
+    while (control == nullptr || !control->TakesFocus()) control = chance_.Of(form.Controls());
     if (control->Name() == TheEnd && &form == program_.initialLoad.Get()) return nullptr;
     const bool leads =
         std::find(std::begin(WaysOut), std::end(WaysOut), control->Name()) != std::end(WaysOut);
@@ -148,16 +148,16 @@ RandomUser::Act RandomUser::CloseWindow() {
 
 void RandomUser::Plan() {
     const std::size_t kind = chance_.Below(100);
-    if (kind < 5) {
+    if (kind < 3) {
         plan_ = {{"AptNameText", chance_.Percent(50) ? "kxyz" : "KABC"},
                  {"BasicNameText", chance_.Percent(50) ? "one" : "TWO"},
                  {"TransitionText", chance_.Percent(50) ? "" : "thr"},
                  {"SaveCommand", ""}};
-    } else if (kind < 50) {
+    } else if (kind < 30) {
         constexpr const char* Deeds[] = {"ModifyWaypointCommand", "DeleteWaypointCommand", "MoveUp",
                                          "MoveDown"};
         plan_ = {{"WaypointList", ""}, {"Alt1Text", chance_.Of(Numbers)}, {chance_.Of(Deeds), ""}};
-    } else if (kind < 60) {
+    } else if (kind < 45) {
         plan_ = {{"AddArcCommand", ""},    {"ArcStartText", "10"},   {"ArcEndText", "60"},
                  {"ArcRadiusText", "12"},  {"LatLongCommand", ""},   {"DLatCenterText", "33"},
                  {"MLatCenterText", "30"}, {"DLongCenterText", "0"}, {"DoneCommand", ""},
