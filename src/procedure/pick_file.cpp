@@ -7,7 +7,9 @@ namespace tarvex {
 PickFile::PickFile(Program& program)
     : Form(program.host, "PickFile", "Procedure Select"),
       FileList(*this, "FileList", 0, program.platform.files),
-      program_(program) {
+      program_(program),
+      folder_(program.state.ProcedureFolder),
+      mode_(program.state.ProcedureMode) {
     FileList.OnClick = [this] { FileList_Click(); };
     PickICAO.OnChange = [this] { PickICAO_Change(); };
     DoneCommand.OnClick = [this] { DoneCommand_Click(); };
@@ -28,7 +30,13 @@ void PickFile::PickICAO_Change() {
 }
 
 void PickFile::FileList_Click() {
-    program_.state.ProcedureFileName = FileList.FileName();
+    SharedState& state = program_.state;
+    state.ProcedureFileName = FileList.FileName();
+    // The menu stands beside the picker: it may have fixed another kind of procedure since the list was read.
+    if (!program_.modifyProcedure.IsLoaded()) {
+        state.ProcedureFolder = folder_;
+        state.ProcedureMode = mode_;
+    }
     program_.pickFile.Hide();
     program_.modifyProcedure.Show();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "toolkit/drive_lists.h"
 #include "toolkit/form.h"
 #include "toolkit/simple_controls.h"
@@ -26,6 +28,8 @@ class PickFile : public Form {
 
   private:
     Program& program_;
+    std::string folder_;  // that the list shows
+    std::string mode_;    // in which its procedures open
 };
 
 }  // namespace tarvex

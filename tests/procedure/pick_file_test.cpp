@@ -61,6 +61,16 @@ TEST_F(Picker, OpensTheEditorOnAClickAndStartsAfreshEachTime) {
     EXPECT_EQ(program->host.Visible(), std::vector<Form*>{&Menu()});
 }
 
+TEST_F(Picker, OpensItsOwnKindAfterAnotherWasCreatedBesideIt) {
+    PickFile& picker = Open();
+    user->Presses(Menu().CreateSTAR);
+    user->Presses(Editor().OopsCommand);
+    user->PicksFile(picker.FileList, "KLAX-PERCH1.VTU.tr");
+    EXPECT_EQ(Editor().ActionLabel.Caption(), "Modify a Departure Procedure");
+    EXPECT_EQ(Editor().BasicNameText.Text(), "PERCH1");
+    EXPECT_EQ(State().ProcedureFolder + State().ProcedureFileName, Path("KLAX-PERCH1.VTU.tr"));
+}
+
 TEST_F(Picker, MissingFolderStopsTheProgram) {
     services.files.RemoveFolder("C:\\FS2000\\Giostam\\navdata\\Sids");
     user->Presses(Menu().ModifyDP);
