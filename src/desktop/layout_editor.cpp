@@ -23,17 +23,20 @@ class EditorLayout {
   private:
     wxSizer* Names();
     wxSizer* WaypointBoxes();
-    wxSizer* Identification();
-    wxSizer* Position();
-    wxSizer* Altitudes();
     wxSizer* Restriction();
     wxSizer* Commands();
     wxSizer* List();
     wxSizer* WaysOut();
 
+    // Adds a label and its box to a row.
     void Pair(wxSizer& row, Label& label, TextBox& box, int characters, const wxString& spoken);
+    void Box(wxSizer& row, TextBox& box, int characters, const wxString& spoken);
+    // Adds a line of the grid: a label, and what stands behind it.
+    wxSizer* Row(wxFlexGridSizer& grid, wxWindow* label);
     void Axis(wxFlexGridSizer& grid, Label& label, TextBox& degrees, TextBox& minutes, Frame& hemisphere,
               OptionButton& first, OptionButton& second, const wxString& spoken);
+    // The label with room for another caption that it gets later.
+    wxStaticText* RoomFor(Label& label, const wxString& caption);
 
     ModifyProcedure& editor_;
     FormBuilder put_;
@@ -41,34 +44,61 @@ class EditorLayout {
     wxSizerFlags middle_ = wxSizerFlags().CentreVertical();
 };
 
+wxStaticText* EditorLayout::RoomFor(Label& label, const wxString& caption) {
+    wxStaticText* widget = put_.Put(label);
+    widget->SetMinSize({widget->GetTextExtent(caption).x + 1, -1});
+    return widget;
+}
+
+void EditorLayout::Box(wxSizer& row, TextBox& box, int characters, const wxString& spoken) {
+    row.Add(put_.Put(box, characters, spoken), middle_);
+}
+
 void EditorLayout::Pair(wxSizer& row, Label& label, TextBox& box, int characters, const wxString& spoken) {
     if (!row.IsEmpty()) row.AddSpacer(2 * gap_);
     row.Add(put_.Put(label), middle_);
     row.AddSpacer(gap_);
-    row.Add(put_.Put(box, characters, spoken), middle_);
+    Box(row, box, characters, spoken);
+}
+
+wxSizer* EditorLayout::Row(wxFlexGridSizer& grid, wxWindow* label) {
+    grid.Add(label, middle_);
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    grid.Add(row, wxSizerFlags().CentreVertical());
+    return row;
 }
 
 void EditorLayout::Axis(wxFlexGridSizer& grid, Label& label, TextBox& degrees, TextBox& minutes,
                         Frame& hemisphere, OptionButton& first, OptionButton& second,
                         const wxString& spoken) {
     const auto labels = put_.PutInParts(label, 3);
-    grid.Add(labels[0], middle_);
-    grid.Add(labels[1], middle_);
-    grid.Add(put_.Put(degrees, 5, spoken + " degrees"), middle_);
-    grid.Add(labels[2], middle_);
-    grid.Add(put_.Put(minutes, 10, spoken + " minutes"), middle_);
+    wxSizer* row = Row(grid, labels[0]);
+    row->Add(labels[1], middle_);
+    row->AddSpacer(gap_);
+    Box(*row, degrees, 5, spoken + " degrees");
+    row->AddSpacer(2 * gap_);
+    row->Add(labels[2], middle_);
+    row->AddSpacer(gap_);
+    Box(*row, minutes, 10, spoken + " minutes");
+    row->AddSpacer(2 * gap_);
     wxSizer* options = put_.Put(hemisphere, wxHORIZONTAL);
-    options->Add(put_.Put(first), middle_);
+    wxRadioButton* left = put_.Put(first);
+    // Lined up with the options of the other axis.
+    left->SetMinSize({left->GetTextExtent("North Long").x + 3 * gap_, -1});
+    options->Add(left, middle_);
     options->AddSpacer(gap_);
     options->Add(put_.Put(second), middle_);
-    grid.Add(put_.Inside(hemisphere), wxSizerFlags().CentreVertical().Border(wxLEFT, gap_));
+    row->Add(put_.Inside(hemisphere), middle_);
 }
 
 wxSizer* EditorLayout::Names() {
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     Pair(*row, editor_.ICAOLabel, editor_.AptNameText, 6, "ICAO");
     Pair(*row, editor_.BasicNameLabel, editor_.BasicNameText, 9, "Basic Name");
-    Pair(*row, editor_.TransitionLabel1, editor_.TransitionText, 9, "Transition or Runway");
+    row->AddSpacer(2 * gap_);
+    row->Add(RoomFor(editor_.TransitionLabel1, "Transition"), middle_);
+    row->AddSpacer(gap_);
+    Box(*row, editor_.TransitionText, 9, "Transition or Runway");
     row->AddSpacer(2 * gap_);
     row->Add(put_.Put(editor_.RwySpecificCheck), middle_);
     row->AddSpacer(3 * gap_);
@@ -81,53 +111,38 @@ wxSizer* EditorLayout::Names() {
     return row;
 }
 
-wxSizer* EditorLayout::Identification() {
-    auto* row = new wxBoxSizer(wxHORIZONTAL);
-    Pair(*row, editor_.FixLabel, editor_.FixNameText, 9, "Fix ID");
+wxSizer* EditorLayout::WaypointBoxes() {
+    auto* grid = new wxFlexGridSizer(2, gap_, gap_);
+    wxSizer* row = Row(*grid, put_.Put(editor_.FixLabel));
+    Box(*row, editor_.FixNameText, 9, "Fix ID");
     Pair(*row, editor_.Label1, editor_.NAVIDText, 6, "Navaid ID");
     Pair(*row, editor_.Label2, editor_.FreqText, 8, "Navaid Frequency");
-    return row;
-}
-
-wxSizer* EditorLayout::Position() {
-    auto* grid = new wxFlexGridSizer(6, gap_, gap_);
     Axis(*grid, editor_.DMLatLabel, editor_.DDMLatText, editor_.DMMLatText, editor_.Frame1,
          editor_.NLatOption, editor_.SLatOption, "Latitude");
     Axis(*grid, editor_.DMLongLabel, editor_.DDMLongText, editor_.DMMLongText, editor_.Frame2,
          editor_.ELongOption, editor_.WLongOption, "Longitude");
-    return grid;
-}
-
-wxSizer* EditorLayout::Altitudes() {
-    auto* row = new wxBoxSizer(wxHORIZONTAL);
-    Pair(*row, editor_.Alt1Label, editor_.Alt1Text, 7, "Altitude or Lower Altitude");
-    Pair(*row, editor_.Alt2Label, editor_.Alt2Text, 7, "Upper Altitude");
+    row = Row(*grid, RoomFor(editor_.Alt1Label, "Lower Altitude"));
+    Box(*row, editor_.Alt1Text, 9, "Altitude or Lower Altitude");
+    Pair(*row, editor_.Alt2Label, editor_.Alt2Text, 9, "Upper Altitude");
     Pair(*row, editor_.Label4, editor_.AirspeedText, 5, "Airspeed");
-    return row;
+
+    auto* column = new wxBoxSizer(wxVERTICAL);
+    column->Add(grid);
+    column->AddSpacer(gap_);
+    column->Add(Restriction(), wxSizerFlags().Expand());
+    return column;
 }
 
 wxSizer* EditorLayout::Restriction() {
     wxSizer* box = put_.Put(editor_.Frame4, wxVERTICAL);
-    auto* grid = new wxFlexGridSizer(3, gap_ / 2, 2 * gap_);
+    auto* grid = new wxFlexGridSizer(3, gap_ / 2, 3 * gap_);
     for (OptionButton* option :
          {&editor_.NoRestrictionOption, &editor_.AtOption, &editor_.AtAboveAtBelowOption,
           &editor_.AtBelowOption, &editor_.AtAboveOption}) {
         grid->Add(put_.Put(*option), middle_);
     }
-    box->Add(grid, wxSizerFlags().Border(wxALL, gap_ / 2));
+    box->Add(grid, wxSizerFlags().Border(wxALL, gap_));
     return box;
-}
-
-wxSizer* EditorLayout::WaypointBoxes() {
-    auto* column = new wxBoxSizer(wxVERTICAL);
-    column->Add(Identification());
-    column->AddSpacer(gap_);
-    column->Add(Position());
-    column->AddSpacer(gap_);
-    column->Add(Altitudes());
-    column->AddSpacer(gap_);
-    column->Add(Restriction(), wxSizerFlags().Expand());
-    return column;
 }
 
 wxSizer* EditorLayout::Commands() {
@@ -163,7 +178,7 @@ wxSizer* EditorLayout::List() {
     auto* column = new wxBoxSizer(wxVERTICAL);
     column->Add(put_.Put(editor_.Label6, LabelStyle::Section));
     column->AddSpacer(gap_);
-    column->Add(put_.Put(editor_.WaypointList, {24, 8}, "List of Waypoints"), wxSizerFlags(1).Expand());
+    column->Add(put_.Put(editor_.WaypointList, {24, 10}, "List of Waypoints"), wxSizerFlags(1).Expand());
     column->AddSpacer(gap_);
     column->Add(moves, wxSizerFlags().Expand());
     return column;

@@ -41,6 +41,7 @@ LineList::LineList(wxWindow* parent, bool icons)
     model_->DecRef();
     wxDataViewRenderer* renderer = icons ? static_cast<wxDataViewRenderer*>(new wxDataViewIconTextRenderer)
                                          : static_cast<wxDataViewRenderer*>(new wxDataViewTextRenderer);
+    renderer->SetAlignment(wxALIGN_LEFT | wxALIGN_CENTRE_VERTICAL);
     AppendColumn(new wxDataViewColumn(wxString(), renderer, 0));
 }
 

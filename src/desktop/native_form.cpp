@@ -100,7 +100,11 @@ void NativeForm::PutFocusOn(const Control& control, bool selectAll) {
     if (binder == nullptr) return;
     const Desktop::Mute mute(desktop_);
     arrivedAt_ = &control;
-    if (!HoldsFocusOfWindow(binder->Widget())) binder->Widget().SetFocus();
+    if (!HoldsFocusOfWindow(binder->Widget())) {
+        binder->Widget().SetFocus();
+        // A list may select a line of its own when it gets the focus.
+        binder->ToWidget();
+    }
     if (selectAll) binder->SelectAll();
 }
 
