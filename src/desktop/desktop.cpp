@@ -34,19 +34,24 @@ NativeForm* Desktop::WindowOf(const Form& form) const {
 NativeForm& Desktop::MakeWindow(Form& form) {
     const ScreenLayout& layout = LayoutOf(form);
     NativeForm* anchor = nullptr;
+    std::vector<wxRect> taken;
     for (const auto& [other, window] : windows_) {
-        if (other->Name() == layout.beside) anchor = window;
+        if (other->Name() == layout.beside) {
+            anchor = window;
+        } else if (window->IsShown()) {
+            taken.push_back(window->GetRect());
+        }
     }
     const Mute mute(*this);
     auto* window = new NativeForm(*this, form, layout.floats ? anchor : nullptr);
     windows_[&form] = window;
     layout.layOut(form, *window);
     window->Flush();
-    FitToContent(*window);
+    FitToContent(*window, layout);
     if (anchor != nullptr) {
-        PlaceBeside(*window, *anchor);
+        PlaceBeside(*window, *anchor, taken);
     } else {
-        window->CentreOnScreen();
+        PlaceInMiddle(*window, layout);
     }
     return *window;
 }

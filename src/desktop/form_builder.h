@@ -50,10 +50,11 @@ class FormBuilder {
     LineList* Put(FolderList& list, wxSize characters, const wxString& spoken);
     LineList* Put(FileList& list, wxSize characters, const wxString& spoken);
 
-    // A frame; with a caption it has a border. What is added to the sizer stands in it.
+    // A frame. What is added to the sizer stands in it. With a caption it has a border, and the sizer is what
+    // goes into the sizer around it; without one that is the widget that Inside gives.
     wxSizer* Put(Frame& frame, wxOrientation orientation);
-    // Makes what is put next stand in the frame, although it does not belong to its control.
     wxWindow* Inside(const Frame& frame) const;
+    // Where controls stand that belong to no frame; null: on the page.
     void StandIn(wxWindow* parent) { parent_ = parent; }
 
     wxWindow* Line(wxOrientation orientation);

@@ -178,7 +178,7 @@ wxSizer* EditorLayout::List() {
     auto* column = new wxBoxSizer(wxVERTICAL);
     column->Add(put_.Put(editor_.Label6, LabelStyle::Section));
     column->AddSpacer(gap_);
-    column->Add(put_.Put(editor_.WaypointList, {24, 10}, "List of Waypoints"), wxSizerFlags(1).Expand());
+    column->Add(put_.Put(editor_.WaypointList, {24, 5}, "List of Waypoints"), wxSizerFlags(1).Expand());
     column->AddSpacer(gap_);
     column->Add(moves, wxSizerFlags().Expand());
     return column;

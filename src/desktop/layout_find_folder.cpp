@@ -20,7 +20,7 @@ void LayOutFindFolder(Form& form, NativeForm& window) {
     inner->AddSpacer(gap);
     inner->Add(put.Put(screen.Drive1, "Drive"), wxSizerFlags().Expand());
     inner->AddSpacer(gap);
-    inner->Add(put.Put(screen.Dir1, {34, 11}, "Folder"), wxSizerFlags(1).Expand());
+    inner->Add(put.Put(screen.Dir1, {34, 6}, "Folder"), wxSizerFlags(1).Expand());
     inner->AddSpacer(gap);
     inner->Add(put.Put(screen.DataHintLabel), wxSizerFlags().Expand());
     inner->AddSpacer(gap);

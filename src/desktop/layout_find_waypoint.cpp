@@ -54,9 +54,9 @@ void LayOutFindWaypoint(Form& form, NativeForm& window) {
     page->AddSpacer(2 * gap);
     page->Add(identifier, wxSizerFlags().Expand());
     page->AddSpacer(gap);
-    page->Add(put.Put(search.WaypointListBox, {26, 8}, "Found"), wxSizerFlags(1).Expand());
+    page->Add(put.Put(search.WaypointListBox, {26, 5}, "Found"), wxSizerFlags(1).Expand());
     page->AddSpacer(gap);
-    page->Add(position, wxSizerFlags().Expand());
+    page->Add(put.Inside(search.Frame1), wxSizerFlags().Expand());
     page->AddSpacer(2 * gap);
     page->Add(ways, wxSizerFlags().Expand());
 }

@@ -20,7 +20,7 @@ void LayOutPicker(Form& form, NativeForm& window) {
     auto* page = put.Content();
     page->Add(search, wxSizerFlags().Expand());
     page->AddSpacer(gap);
-    page->Add(put.Put(picker.FileList, {26, 15}, "Procedures"), wxSizerFlags(1).Expand());
+    page->Add(put.Put(picker.FileList, {26, 7}, "Procedures"), wxSizerFlags(1).Expand());
     page->AddSpacer(2 * gap);
     page->Add(put.Put(picker.DoneCommand), wxSizerFlags().Right());
 }

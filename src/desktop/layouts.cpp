@@ -10,14 +10,14 @@ namespace tarvex {
 namespace {
 
 constexpr std::array<ScreenLayout, 8> Layouts = {{
-    {"InitialLoad", LayOutMenu, "", false},
-    {"FindFS2000Form", LayOutFindFolder, "", false},
-    {"PickFile", LayOutPicker, "InitialLoad", false},
-    {"ModifyProcedure", LayOutEditor, "", false},
-    {"FindWaypointForm", LayOutFindWaypoint, "ModifyProcedure", true},
-    {"AddARC", LayOutAddArc, "ModifyProcedure", true},
-    {"CreateWaypointForm", LayOutCreateWaypoint, "ModifyProcedure", true},
-    {"LatLongForm", LayOutLatLong, "ModifyProcedure", true},
+    {"InitialLoad", LayOutMenu, "", false, 0, 0},
+    {"FindFS2000Form", LayOutFindFolder, "", false, 6, 0},
+    {"PickFile", LayOutPicker, "InitialLoad", false, 10, 0},
+    {"ModifyProcedure", LayOutEditor, "", false, 8, 60},
+    {"FindWaypointForm", LayOutFindWaypoint, "ModifyProcedure", true, 4, 0},
+    {"AddARC", LayOutAddArc, "ModifyProcedure", true, 0, 0},
+    {"CreateWaypointForm", LayOutCreateWaypoint, "ModifyProcedure", true, 0, 0},
+    {"LatLongForm", LayOutLatLong, "ModifyProcedure", true, 0, 0},
 }};
 
 }  // namespace
