@@ -128,13 +128,20 @@ void ReadNavaid(std::string_view line, NavaidRecord& navaid) {
     navaid.NavaidLong.Assign(line.substr(latEnd, longEnd - latEnd));
 }
 
+std::int16_t Elevation(std::string_view text) {
+    try {
+        return WholeNumber16(LeadingNumber(text));
+    } catch (const Failure& failure) {
+        throw Failure(failure.Number(), "the elevation " + std::string(Trim(text)) + " does not fit 16 bits");
+    }
+}
+
 void ReadAirport(std::string_view line, AirportRecord& airport) {
     const PaddedLine<AirportColumns> columns(line);
     columns.Copy(IDColumn, airport.AirportID);
     columns.Copy(AirportLatColumn, airport.AirportLat);
     columns.Copy(AirportLongColumn, airport.AirportLong);
-    airport.AirportElevation =
-        WholeNumber16(LeadingNumber(columns.Columns(AirportElevationColumn, AirportElevationWidth)));
+    airport.AirportElevation = Elevation(columns.Columns(AirportElevationColumn, AirportElevationWidth));
 }
 
 template <auto ReadRecord, class Record>

@@ -1,0 +1,187 @@
+#include "startup/find_fs2000_form.h"
+
+#include <gtest/gtest.h>
+
+#include "support/scripted_user.h"
+#include "support/test_services.h"
+
+namespace tarvex::testing {
+namespace {
+
+const std::string Ini = "C:\\Tarvex\\Tarvex.INI";
+
+class FolderScreenTest : public ::testing::Test {
+  protected:
+    FolderScreenTest() {
+        services.PutSimulator();
+        services.files.Remove(Ini);
+        services.files.PutFolder("C:\\Games\\Old");
+        services.files.PutFolder("D:\\Fs2000\\Aircraft");
+        services.files.SetDrives({"C:\\", "D:\\", "E:\\"});
+    }
+
+    FindFS2000Form& Screen() { return *program.findFS2000Form.Get(); }
+    void Register(const std::string& folder) {
+        services.registry.Put(0x80000002, "Software\\Microsoft\\Microsoft Games\\Flight Simulator\\7.0",
+                              "path", folder + '\0');
+    }
+    int Row(const std::string& path) {
+        FolderList& list = Screen().Dir1;
+        for (int row = list.FirstIndex(); row < list.ListCount(); ++row) {
+            if (list.List(row) == path) return row;
+        }
+        ADD_FAILURE() << "no row " << path;
+        return FolderList::OpenFolder;
+    }
+    void Click(const std::string& path) { program.door.PickFolder(Screen().Dir1, Row(path)); }
+    void DoubleClick(const std::string& path) { program.door.OpenFolder(Screen().Dir1, Row(path)); }
+    void Done() { program.door.Press(Screen().FindDoneCommand); }
+    // The folder chosen and the line about it.
+    void ExpectChosen(const std::string& folder, const std::string& hint) {
+        EXPECT_EQ(program.state.SimulatorPath, folder);
+        EXPECT_EQ(Screen().DataHintLabel.Caption(), hint);
+    }
+    std::string Forms() {
+        std::string forms;
+        for (const Form* form : program.host.Visible()) forms += form->Name();
+        return forms;
+    }
+
+    TestServices services;
+    Program program{services.ForProgram()};
+};
+
+TEST_F(FolderScreenTest, ClickedFolderIsKeptAndItsDataAreLoaded) {
+    services.files.Put("C:\\FS2000\\GIOSTAM\\navdata\\wpNavFIX.txt", "; fixes\r\none\r\ntwo\r\n");
+    program.Start();
+    ExpectChosen("", "No folder is chosen yet.");
+    EXPECT_EQ(program.host.GetFocus().Current(), &Screen().Drive1);
+    Click("C:\\Games");
+    ExpectChosen("C:\\Games", "No navigation data in C:\\Games.");
+    Click("C:\\FS2000");
+    ExpectChosen("C:\\FS2000", "The navigation data are in C:\\FS2000.");
+    program.state.SimulatorPath = "C:\\Fs2000";
+    Done();
+
+    EXPECT_EQ(services.files.Content(Ini), "C:\\FS2000\r\nN\r\nW\r\n");
+    EXPECT_EQ(Forms(), "InitialLoad");
+    EXPECT_FALSE(program.findFS2000Form.IsLoaded());
+    EXPECT_EQ(program.state.SimulatorPath, "C:\\Fs2000");
+    EXPECT_EQ(
+        program.state.DefaultLatHemisphere + program.state.DefaultLongHemisphere + program.state.MagVarSide,
+        "NWW");
+    EXPECT_EQ(program.state.Navigation.FixCount, 1);
+    EXPECT_EQ(services.messages.Take(), std::vector<Message>());
+}
+
+TEST_F(FolderScreenTest, FolderFollowsTheLists) {
+    program.Start();
+    program.door.PickDrive(Screen().Drive1, "D:\\");
+    ExpectChosen("D:\\", "No navigation data in D:\\.");
+    DoubleClick("D:\\Fs2000");
+    ExpectChosen("D:\\Fs2000", "No navigation data in D:\\Fs2000.");
+    Click("D:\\Fs2000\\Aircraft");
+    ExpectChosen("D:\\Fs2000\\Aircraft", "No navigation data in D:\\Fs2000\\Aircraft.");
+    // A click on the open folder itself chooses nothing.
+    Click("D:\\Fs2000");
+    ExpectChosen("D:\\Fs2000\\Aircraft", "No navigation data in D:\\Fs2000\\Aircraft.");
+    Click("D:\\");
+    ExpectChosen("D:\\", "No navigation data in D:\\.");
+
+    // There is nothing in drive E.
+    EXPECT_TRUE(program.door.PickDrive(Screen().Drive1, "E:\\"));
+    EXPECT_EQ(services.messages.Take().size(), 1U);
+    EXPECT_EQ(Screen().Drive1.Drive(), "D:\\");
+    EXPECT_EQ(Screen().Dir1.Path(), "D:\\Fs2000");
+    ExpectChosen("D:\\", "No navigation data in D:\\.");
+}
+
+TEST_F(FolderScreenTest, RegisteredDriveIsShownWhereThereIsOne) {
+    const struct {
+        const char* registered;
+        const char* drive;
+        const char* chosen;
+    } cases[] = {
+        {" d:\\Fs2000 ", "D:\\", "D:\\"},    // its drive's folder comes up and is chosen by that
+        {"C:\\Games", "C:\\", "C:\\Games"},  // the lists are on the drive already
+        {"E:\\Games", "C:\\", "E:\\Games"},  // a drive without a folder
+        {"X:\\Games", "C:\\", "X:\\Games"},  // no drive
+        {"Games", "C:\\", "Games"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.registered);
+        TestServices fresh;
+        fresh.files.PutFolder("C:\\Games");
+        fresh.files.PutFolder("D:\\Fs2000");
+        fresh.files.SetDrives({"C:\\", "D:\\", "E:\\"});
+        fresh.registry.Put(0x80000002, "Software\\Microsoft\\Microsoft Games\\Flight Simulator\\7.0", "path",
+                           std::string(c.registered) + '\0');
+        Program other(fresh.ForProgram());
+        other.host.RunEvent([&] { other.findFS2000Form.Show(); });
+        ASSERT_TRUE(other.findFS2000Form.IsLoaded());
+        EXPECT_TRUE(other.findFS2000Form.Get()->Visible());
+        EXPECT_EQ(other.findFS2000Form.Get()->Drive1.Drive(), c.drive);
+        EXPECT_EQ(other.findFS2000Form.Get()->Dir1.Path(), c.drive);
+        EXPECT_EQ(other.state.SimulatorPath, c.chosen);
+        EXPECT_EQ(fresh.messages.Take(), std::vector<Message>());
+    }
+}
+
+TEST_F(FolderScreenTest, FolderWithoutDataLeavesEmptyTables) {
+    program.Start();
+    Click("C:\\Games");
+    Done();
+    EXPECT_EQ(
+        services.messages.Take(),
+        (std::vector{Message{.prompt = "The navigation data in C:\\Games could not be read:\r\n"
+                                       "C:\\Games\\GIOSTAM\\navdata: no such folder\r\n"
+                                       "Searches will find nothing, and the next start will end at once.",
+                             .title = "Tarvex 2.35"}}));
+    EXPECT_EQ(Forms(), "InitialLoad");
+    EXPECT_EQ(program.state.Navigation.FixCount, -1);
+    EXPECT_EQ(program.state.DefaultLatHemisphere, "N");
+    EXPECT_EQ(services.files.Content(Ini), "C:\\GAMES\r\nN\r\nW\r\n");
+}
+
+TEST_F(FolderScreenTest, DoneAtOnceKeepsAnEmptyFolder) {
+    program.Start();
+    Done();
+    EXPECT_EQ(services.files.Content(Ini), "\r\nN\r\nW\r\n");
+    EXPECT_EQ(services.messages.Take().size(), 1U);
+    Program next(services.ForProgram());
+    next.Start();
+    EXPECT_EQ(services.messages.Take(), std::vector<Message>());
+    ASSERT_TRUE(next.host.Stopped());
+    EXPECT_EQ(next.host.Stopped()->exitStatus, 1);
+}
+
+TEST_F(FolderScreenTest, StaysWhileTheSettingsCannotBeWritten) {
+    services.files.FailWrite(Ini, DiskFull);
+    program.Start();
+    Click("C:\\FS2000");
+    Done();
+    EXPECT_EQ(
+        services.messages.Take(),
+        (std::vector{Message{.prompt = "The settings file C:\\Tarvex\\Tarvex.INI could not be written:\r\n"
+                                       "C:\\Tarvex\\Tarvex.INI: cannot be written\r\n"
+                                       "The folder is not kept. Please try again, or close this window.",
+                             .title = "Tarvex 2.35"}}));
+    EXPECT_EQ(Forms(), "FindFS2000Form");
+    ExpectChosen("C:\\FS2000", "The navigation data are in C:\\FS2000.");
+    program.door.CloseWindow(program.findFS2000Form);
+    ASSERT_TRUE(program.host.Stopped());
+    EXPECT_EQ(program.host.Stopped()->exitStatus, 0);
+}
+
+TEST_F(FolderScreenTest, ClosedBesideTheEditorLeavesTheEditor) {
+    Register("C:\\FS2000");
+    program.Start();
+    program.door.Press(program.initialLoad.Get()->CreateDP);
+    program.host.RunEvent([&] { program.AskForSimulatorFolder(); });
+    EXPECT_EQ(Forms(), "ModifyProcedureFindFS2000Form");
+    program.door.CloseWindow(program.findFS2000Form);
+    EXPECT_EQ(Forms(), "ModifyProcedure");
+}
+
+}  // namespace
+}  // namespace tarvex::testing

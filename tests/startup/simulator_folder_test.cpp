@@ -1,0 +1,90 @@
+#include "startup/simulator_folder.h"
+
+#include <gtest/gtest.h>
+
+#include "support/test_services.h"
+
+namespace tarvex::testing {
+namespace {
+
+constexpr std::uint32_t LocalMachine = 0x80000002;
+
+// The value of that many bytes, closing zero included.
+std::string WithZero(std::string text) {
+    return text + '\0';
+}
+
+TEST(SimulatorFolderTest, ReadsOneValue) {
+    FakeRegistry registry;
+    registry.Put(LocalMachine, "Software\\App\\7.0", "path", WithZero(" C:\\Sim "));
+    registry.Put(LocalMachine, "Software\\App\\7.0", "", WithZero("unnamed"));
+    registry.Put(LocalMachine, "Software\\App\\7.0", "bare", "abc");
+    registry.Put(LocalMachine, "Software\\App\\7.0", "empty", WithZero(""));
+    registry.Put(LocalMachine, "Software\\App\\7.0", "nothing", "");
+    registry.Put(LocalMachine, "Software\\App", "path", WithZero("no section"));
+    registry.Put(LocalMachine, "Software\\Tarvex", "path", WithZero("product"));
+    registry.Put(0x80000001, "Software\\App", "path", WithZero("user's"));
+
+    const struct {
+        const char* app;
+        const char* section;
+        const char* key;
+        const char* expected;
+    } cases[] = {
+        {"App", "7.0", "path", " C:\\Sim "}, {" App  ", "7.0", "path", " C:\\Sim "},
+        {"App", "7.0", "*", "unnamed"},      {"App", "7.0", "bare", "ab"},
+        {"App", "7.0", "empty", ""},         {"App", "7.0", "nothing", "default"},
+        {"App", "7.0", "none", "default"},   {"App", "8.0", "path", "default"},
+        {"App", "", "path", "no section"},   {"", "", "path", "product"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(ReadRegistryValue(registry, c.app, c.section, c.key, "default"), c.expected)
+            << c.app << ", " << c.section << ", " << c.key;
+        EXPECT_EQ(registry.OpenKeys(), 0);
+    }
+
+    CRegistry_Manipulation manipulation(registry);
+    manipulation.AppName(" App ");
+    EXPECT_EQ(manipulation.AppName(), "App");
+    std::int32_t root = 0;
+    EXPECT_EQ(manipulation.GetKey(root, "", "path"), "no section");
+    EXPECT_EQ(static_cast<std::uint32_t>(root), LocalMachine);
+    root = static_cast<std::int32_t>(0x80000001U);
+    EXPECT_EQ(manipulation.GetKey(root, "", "path"), "user's");
+    EXPECT_EQ(manipulation.GetKey(root, "7.0", "path"), "");
+}
+
+// A key whose value shrinks, or goes, between the two queries.
+class ShrinkingRegistry : public Registry {
+  public:
+    explicit ShrinkingRegistry(std::string second) : second_(std::move(second)) {}
+
+    bool OpenKey(std::uint32_t, const std::string&, std::uint32_t access, Key&) override {
+        EXPECT_EQ(access, 0xF003FU);
+        ++open;
+        return true;
+    }
+    bool QueryValue(Key, const std::string&, char* buffer, std::uint32_t& size) override {
+        if (buffer != nullptr) second_.copy(buffer, size);
+        size = buffer == nullptr ? 10 : static_cast<std::uint32_t>(second_.size());
+        return buffer == nullptr || !second_.empty();
+    }
+    void CloseKey(Key) override { --open; }
+
+    int open = 0;
+
+  private:
+    std::string second_;
+};
+
+TEST(SimulatorFolderTest, ValueMayChangeBetweenTheQueries) {
+    for (const auto& [second, expected] :
+         {std::pair{WithZero("C:\\Sim"), "C:\\Sim"}, {std::string(), "default"}}) {
+        ShrinkingRegistry registry(second);
+        EXPECT_EQ(ReadRegistryValue(registry, "App", "7.0", "path", "default"), expected);
+        EXPECT_EQ(registry.open, 0);
+    }
+}
+
+}  // namespace
+}  // namespace tarvex::testing
