@@ -41,6 +41,8 @@ function(tarvex_embedded_icon target)
     COMMAND ${CMAKE_COMMAND} "-DPNGS=${pngs}" -DHEADER=${header} -P ${CMAKE_SOURCE_DIR}/cmake/embed_icon.cmake
     DEPENDS ${pngs} ${CMAKE_SOURCE_DIR}/cmake/embed_icon.cmake
     VERBATIM)
-  target_sources(${target} PRIVATE ${header})
+  # The target may stem from another folder, where the command is not known.
+  add_custom_target(${target}_icon DEPENDS ${header})
+  add_dependencies(${target} ${target}_icon)
   target_include_directories(${target} PRIVATE ${TARVEX_ICON_DIR})
 endfunction()
