@@ -10,13 +10,13 @@ import time
 import unittest
 from pathlib import Path
 
-import gi
-
-gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi, GLib  # noqa: E402
+from gi.repository import Gio, GLib
 
 PROJECT = Path(__file__).resolve().parents[2]
 PATIENCE = float(os.environ.get("TARVEX_PATIENCE", "30"))  # seconds until a wait counts as failed
+
+# Bits of the states of a node on the accessibility bus.
+ACTIVE, CHECKED, FOCUSED, SENSITIVE, SHOWING = 1, 4, 12, 24, 25
 
 
 def until(condition, what, patience=PATIENCE):
@@ -38,16 +38,73 @@ def xdotool(*arguments):
     subprocess.run(["xdotool", *map(str, arguments)], check=True)
 
 
-def descendants(node):
-    for index in range(node.get_child_count()):
-        child = node.get_child_at_index(index)
-        if child is not None:
+class Node:
+    """A widget on the accessibility bus. Each question goes to the program; nothing is kept."""
+
+    _bus = None
+
+    def __init__(self, owner, path):
+        self.owner = owner
+        self.path = path
+
+    @classmethod
+    def bus(cls):
+        if cls._bus is None:
+            session = Gio.bus_get_sync(Gio.BusType.SESSION)
+            reply = session.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None, 0, -1)
+            flags = Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION
+            cls._bus = Gio.DBusConnection.new_for_address_sync(reply.unpack()[0], flags, None, None)
+        return cls._bus
+
+    @classmethod
+    def applications(cls):
+        return cls("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root").children()
+
+    def _call(self, interface, method, arguments=None):
+        reply = self.bus().call_sync(self.owner, self.path, interface, method, arguments, None, 0, 5000)
+        return reply.unpack()
+
+    def _ask(self, method, part="Accessible", arguments=None):
+        return self._call("org.a11y.atspi." + part, method, arguments)[0]
+
+    def _property(self, name):
+        arguments = GLib.Variant("(ss)", ("org.a11y.atspi.Accessible", name))
+        return self._call("org.freedesktop.DBus.Properties", "Get", arguments)[0]
+
+    def process(self):
+        bus = Node("org.freedesktop.DBus", "/org/freedesktop/DBus")
+        return bus._call("org.freedesktop.DBus", "GetConnectionUnixProcessID", GLib.Variant("(s)", (self.owner,)))[0]
+
+    def children(self):
+        return [Node(owner, path) for owner, path in self._ask("GetChildren")]
+
+    def parent(self):
+        return Node(*self._property("Parent"))
+
+    def descendants(self):
+        for child in self.children():
             yield child
-            yield from descendants(child)
+            yield from child.descendants()
 
+    def id(self):
+        return self._property("AccessibleId")
 
-def is_in(state, node):
-    return node.get_state_set().contains(state)
+    def caption(self):
+        return self._property("Name")
+
+    def role(self):
+        return self._ask("GetRoleName")
+
+    def has(self, state):
+        low, high = self._ask("GetState")
+        return bool((low | high << 32) >> state & 1)
+
+    def area(self):
+        """Left, top, width and height on the screen."""
+        return self._ask("GetExtents", "Component", GLib.Variant("(u)", (0,)))
+
+    def text(self):
+        return self._ask("GetText", "Text", GLib.Variant("(ii)", (0, -1)))
 
 
 class Machine:
@@ -84,21 +141,14 @@ class Program:
             cwd=machine.bin,
             env=os.environ | {"HOME": home, "XDG_CONFIG_HOME": home, "WINEPREFIX": home + "/prefix", "LC_ALL": "C"},
         )
-        Atspi.init()
-        self.desktop = Atspi.get_desktop(0)
-        self.desktop.set_cache_mask(Atspi.Cache.NONE)
 
     def windows(self):
         """The windows on the screen, as pairs of caption and root."""
         found = []
-        for index in range(self.desktop.get_child_count()):
-            application = self.desktop.get_child_at_index(index)
-            if application is None or application.get_process_id() != self.process.pid:
-                continue
-            for place in range(application.get_child_count()):
-                window = application.get_child_at_index(place)
-                if window is not None and is_in(Atspi.StateType.SHOWING, window):
-                    found.append((window.get_name(), window))
+        for application in Node.applications():
+            if application.process() == self.process.pid:
+                windows = (window for window in application.children() if window.has(SHOWING))
+                found += [(window.caption(), window) for window in windows]
         return found
 
     def captions(self):
@@ -111,7 +161,7 @@ class Program:
             if self.process.poll() is not None:
                 raise AssertionError(f"the program ended with {self.process.returncode}")
             for found, window in self.windows():
-                if found == caption and is_in(Atspi.StateType.ACTIVE, window):
+                if found == caption and window.has(ACTIVE):
                     return Window(self, window)
             return None
 
@@ -143,13 +193,10 @@ class Window:
         self.root = root
 
     def node(self, name):
-        def look():
-            for node in descendants(self.root):
-                if node.get_accessible_id() == name:
-                    return node
-            return None
+        return until(lambda: self._first(lambda node: node.id() == name), f"the control {name}")
 
-        return until(look, f"the control {name}")
+    def _first(self, fits):
+        return next((node for node in self.root.descendants() if fits(node)), None)
 
     def click(self, name):
         self._click_on(self.node(name))
@@ -168,31 +215,28 @@ class Window:
         until(lambda: self.text(name) == text, f'"{text}" in {name}')
 
     def text(self, name):
-        node = self.node(name)
-        return Atspi.Text.get_text(node, 0, Atspi.Text.get_character_count(node))
+        return self.node(name).text()
 
     def caption(self, name):
-        return self.node(name).get_name()
+        return self.node(name).caption()
 
     def is_enabled(self, name):
-        return is_in(Atspi.StateType.SENSITIVE, self.node(name))
+        return self.node(name).has(SENSITIVE)
 
     def is_selected(self, name):
-        return is_in(Atspi.StateType.CHECKED, self.node(name))
+        return self.node(name).has(CHECKED)
 
     def lines(self, name):
         """What the lines of a list show, without blanks at the end."""
-        cells = (node for node in descendants(self.node(name)) if node.get_role() == Atspi.Role.TABLE_CELL)
-        return [cell.get_name().rstrip() for cell in cells]
+        cells = (node for node in self.node(name).descendants() if node.role() == "table cell")
+        return [cell.caption().rstrip() for cell in cells]
 
     def focused(self):
         """The name of the control with the focus."""
-        for node in descendants(self.root):
-            if is_in(Atspi.StateType.FOCUSED, node):
-                while node is not None and not node.get_accessible_id():
-                    node = node.get_parent()
-                return node.get_accessible_id() if node is not None else None
-        return None
+        node = self._first(lambda node: node.has(FOCUSED))
+        while node is not None and not node.id() and node.path != self.root.path:
+            node = node.parent()
+        return node.id() if node is not None else None
 
     def expect(self, read, name, value):
         """Waits until reading the control gives the value."""
@@ -203,39 +247,30 @@ class Window:
 
     def answer(self, button):
         """Presses a button of a message box by its caption."""
-        self._click_on(until(lambda: self._button(button), f"the button {button}"))
+        fits = lambda node: node.role() == "push button" and node.caption() == button  # noqa: E731
+        self._click_on(until(lambda: self._first(fits), f"the button {button}"))
 
     def message(self):
         """The words of a message box."""
-        labels = (node for node in descendants(self.root) if node.get_role() == Atspi.Role.LABEL)
-        return "\n".join(label.get_name() for label in labels if label.get_name())
+        labels = (node for node in self.root.descendants() if node.role() == "label")
+        return "\n".join(filter(None, (label.caption() for label in labels)))
 
     def picture(self, file):
         """Writes what the window shows to a PNG file."""
-        area = self.root.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
-        crop = f"{area.width}x{area.height}+{area.x}+{area.y}"
+        left, top, width, height = self.root.area()
+        crop = f"{width}x{height}+{left}+{top}"
         subprocess.run(["import", "-window", "root", "-crop", crop, "+repage", str(file)], check=True)
 
     def _line(self, name, line):
-        for node in descendants(self.node(name)):
-            if node.get_role() == Atspi.Role.TABLE_CELL and node.get_name().rstrip() == line:
-                return node
-        return None
-
-    def _button(self, caption):
-        for node in descendants(self.root):
-            if node.get_role() == Atspi.Role.PUSH_BUTTON and node.get_name() == caption:
+        for node in self.node(name).descendants():
+            if node.role() == "table cell" and node.caption().rstrip() == line:
                 return node
         return None
 
     @staticmethod
     def _click_on(node):
-        def place():
-            area = node.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
-            return area if area.width > 0 and area.x >= 0 else None
-
-        area = until(place, "a place on the screen")
-        xdotool("mousemove", area.x + area.width // 2, area.y + area.height // 2, "click", 1)
+        left, top, width, height = until(lambda: (area := node.area())[2] > 0 and area, "a place on the screen")
+        xdotool("mousemove", left + width // 2, top + height // 2, "click", 1)
 
 
 def keys(text):
