@@ -1,0 +1,319 @@
+"""The Windows program under Wine, driven by keyboard and mouse on a virtual display.
+
+    windows_roads.py TARVEX.EXE HOLD_FILE.EXE SAMPLE_FOLDER PICTURES [NATIVE_PROGRAM]
+
+Every road starts from a simulator folder of its own in a Wine prefix that is thrown away, and ends with a look at
+what is on disk, byte for byte. PICTURES gets a picture of the display for each road.
+"""
+
+import contextlib
+import os
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+from pathlib import Path
+
+WINE = "/usr/lib/wine/wine64"
+WINESERVER = "/usr/lib/wine/wineserver64"
+REGISTRY_KEY = r"HKLM\Software\Microsoft\Microsoft Games\Flight Simulator\7.0"
+STAR = "KJFK-CAMRN4.wst"
+MENU, PICKER, EDITOR, FOLDER = "Tarvex", "Procedure Select", "Modify a Procedure", " "
+HEADER = re.compile(rb"; This Terminal Procedure generated on \d{1,2}/\d{1,2}/\d{2,4} by Tarvex 2\.35\r\n")
+
+
+class RoadFailed(Exception):
+    pass
+
+
+def require(condition, what):
+    if not condition:
+        raise RoadFailed(what)
+
+
+def run(*command):
+    return subprocess.run(command, capture_output=True, text=True).stdout
+
+
+def poll(look, what, seconds=60):
+    """Looks until it sees something; no fixed waits."""
+    end = time.monotonic() + seconds
+    while time.monotonic() < end:
+        seen = look()
+        if seen:
+            return seen
+        time.sleep(0.05)
+    raise RoadFailed(f"no {what} within {seconds} s")
+
+
+def window_titled(title):
+    found = run("xdotool", "search", "--onlyvisible", "--name", f"^{re.escape(title)}$").split()
+    return found[0] if found else None
+
+
+def wait_for(title):
+    """The window of that title, once it takes the keys."""
+    def ready():
+        window = window_titled(title)
+        return window if window and run("xdotool", "getactivewindow").strip() == window else None
+    return poll(ready, f"active window {title!r}")
+
+
+def keys(*names):
+    for name in names:
+        subprocess.run(["xdotool", "key", "--delay", "30", name], check=True)
+        time.sleep(0.05)
+
+
+def click(window, x, y):
+    subprocess.run(["xdotool", "mousemove", "--sync", "--window", window, str(x), str(y), "click", "1"], check=True)
+
+
+class Machine:
+    """A Wine prefix with the program in C:\\Tarvex and a simulator folder."""
+
+    def __init__(self, place, exe, sample):
+        self.drive = place / "prefix" / "drive_c"
+        self.exe = exe
+        self.sample = sample
+        self.home = self.drive / "Tarvex"
+
+    def set_up(self, simulator=None):
+        shutil.rmtree(self.home, ignore_errors=True)
+        self.home.mkdir(parents=True)
+        shutil.copy(self.exe, self.home / "tarvex.exe")
+        self.simulator = simulator or self.drive / "FS2000"
+        shutil.rmtree(self.simulator, ignore_errors=True)
+        shutil.copytree(self.sample, self.simulator)
+
+    def settings(self, folder):
+        (self.home / "Tarvex.INI").write_bytes(folder + b"\r\nN\r\nW\r\nW\r\n")
+
+    def settings_now(self):
+        return (self.home / "Tarvex.INI").read_bytes()
+
+    def star(self):
+        return self.simulator / "GIOSTAM" / "navdata" / "Stars" / STAR
+
+    @contextlib.contextmanager
+    def program(self, *command, cwd=None):
+        process = subprocess.Popen(command or (WINE, "tarvex.exe"), cwd=cwd or self.home,
+                                   stderr=subprocess.PIPE, text=True)
+        try:
+            yield process
+        finally:
+            process.kill()
+            subprocess.run([WINESERVER, "-k"], check=False)
+            process.wait()
+            poll(lambda: not window_titled(MENU), "end of the windows")
+
+
+def registry(*arguments):
+    subprocess.run([WINE, "reg", *arguments, "/reg:32", "/f"], check=True, capture_output=True)
+
+
+def leave_by_menu(process, tabs):
+    """`tabs` leads from the button that has the focus to EXIT."""
+    wait_for(MENU)
+    keys(*["Tab"] * tabs, "Return")
+    poll(lambda: process.poll() is not None, "end of the program")
+    require(process.returncode == 0, f"exit status {process.returncode}")
+
+
+def open_star():
+    wait_for(MENU)
+    keys("Tab", "Tab", "Return")
+    picker = wait_for(PICKER)
+    keys("Tab")
+    subprocess.run(["xdotool", "type", "--delay", "30", "kjfk"], check=True)
+    time.sleep(0.3)
+    click(picker, 90, 51)
+
+
+def set_airspeed_of_first_row(speed):
+    keys(*["Tab"] * 10)  # from the fix's name to the list
+    keys("Home", "Down", "Up")
+    keys(*["shift+Tab"] * 5)  # to the airspeed, which is selected whole
+    subprocess.run(["xdotool", "type", "--delay", "30", speed], check=True)
+    keys(*["Tab"] * 4)  # to Modify
+    keys("Return")
+
+
+def changed(content, speed):
+    """The file as a save must leave it, from the second line on, with the airspeed of the first row changed."""
+    lines = content.split(b"\r\n")
+    row = next(i for i, line in enumerate(lines) if line.startswith(b"W,"))
+    items = lines[row].split(b",")
+    items[7] = speed.encode()
+    lines[row] = b",".join(items)
+    return b"\r\n".join(lines[1:])
+
+
+def change_and_save(machine, picture):
+    before = machine.star().read_bytes()
+    open_star()
+    wait_for(EDITOR)
+    set_airspeed_of_first_row("211")
+    picture()
+    keys("ctrl+s")
+    wait_for(MENU)
+    after = machine.star().read_bytes()
+    require(HEADER.match(after), f"first line {after[:80]!r}")
+    require(after.split(b"\r\n", 1)[1] == changed(before, "211"), f"saved file {after!r}")
+
+
+def first_start_with_registry(machine, picture):
+    machine.set_up()
+    registry("add", REGISTRY_KEY, "/v", "path", "/d", r"C:\FS2000")
+    with machine.program() as process:
+        wait_for(MENU)
+        picture()
+        require(machine.settings_now() == b"C:\\FS2000\r\nN\r\nW\r\nW\r\n", "the settings file")
+        leave_by_menu(process, 4)
+
+
+def first_start_without_registry(machine, picture):
+    machine.set_up()
+    registry("delete", REGISTRY_KEY, "/v", "path")
+    with machine.program():
+        wait_for(FOLDER)
+        keys("Tab", "Up", "Return")  # from C:\Tarvex up to C:\
+        keys("Down")  # FS2000, the first folder below it
+        picture()
+        keys("Tab", "Return")
+        wait_for(MENU)
+        require(machine.settings_now() == b"C:\\FS2000\r\nN\r\nW\r\n", f"settings {machine.settings_now()!r}")
+
+
+def stored_star_changed_and_saved(machine, picture):
+    machine.set_up()
+    machine.settings(rb"C:\FS2000")
+    with machine.program() as process:
+        change_and_save(machine, picture)
+        leave_by_menu(process, 2)
+
+
+def folder_with_blanks_and_letters(machine, picture):
+    machine.set_up(machine.drive / "Spiele äö" / "FS 2000")
+    machine.settings("C:\\Spiele äö\\FS 2000".encode("cp1252"))
+    with machine.program():
+        change_and_save(machine, picture)
+
+
+def drive_root(machine, picture):
+    root = machine.drive.parent / "root"
+    machine.set_up(root)
+    drive = machine.drive.parent / "dosdevices" / "e:"
+    drive.unlink(missing_ok=True)
+    drive.symlink_to("../root")
+    shutil.copy(machine.exe, root / "tarvex.exe")
+    (root / "Tarvex.INI").write_bytes(b"E:\r\nN\r\nW\r\nW\r\n")
+    with machine.program(WINE, r"E:\tarvex.exe"):
+        change_and_save(machine, picture)
+        require((root / "Tarvex.INI").read_bytes() == b"E:\r\nN\r\nW\r\nW\r\n", "the settings at the root")
+
+
+def locked_file(machine, picture):
+    machine.set_up()
+    machine.settings(rb"C:\FS2000")
+    before = machine.star().read_bytes()
+    shutil.copy(HOLD_FILE, machine.home)
+    with machine.program() as process:
+        wait_for(MENU)
+        holder = subprocess.Popen([WINE, "hold_file.exe", rf"C:\FS2000\GIOSTAM\navdata\Stars\{STAR}"],
+                                  cwd=machine.home, stdout=subprocess.PIPE, text=True)
+        require(holder.stdout.readline().strip() == "held", "the file could not be locked")
+        open_star()
+        wait_for("Procedure not opened.")
+        picture()
+        keys("Return")
+        wait_for(MENU)
+        holder.kill()
+        require(process.poll() is None, "the program has ended")
+        require(machine.star().read_bytes() == before, "the locked file has changed")
+
+
+def read_only_folder(machine, picture):
+    machine.set_up()
+    machine.settings(rb"C:\FS2000")
+    stars = machine.star().parent
+    content = {file.name: file.read_bytes() for file in stars.iterdir()}
+    if subprocess.run(["mount", "-t", "tmpfs", "tmpfs", stars], capture_output=True).returncode != 0:
+        return "left out: no file system can be mounted here"
+    try:
+        for name, text in content.items():
+            (stars / name).write_bytes(text)
+        subprocess.run(["mount", "-o", "remount,ro", stars], check=True)
+        with machine.program() as process:
+            open_star()
+            wait_for(EDITOR)
+            keys("ctrl+s")
+            wait_for("Program termination happens now.")
+            picture()
+            keys("Return")
+            poll(lambda: process.poll() is not None, "end of the program")
+            require(process.returncode == 1, f"exit status {process.returncode}")
+        require(machine.star().read_bytes() == content[STAR], "the read-only file has changed")
+    finally:
+        subprocess.run(["umount", "-l", stars], check=False)
+    return None
+
+
+def native_program_beside_the_prefix(machine, picture):
+    machine.set_up()
+    registry("add", REGISTRY_KEY, "/v", "path", "/d", r"c:\fs2000")
+    subprocess.run([WINESERVER, "-w"], check=False, timeout=60)  # the registry is on disk once Wine has ended
+    native = machine.home / "native"
+    native.mkdir()
+    shutil.copy(NATIVE, native / "tarvex")
+    with machine.program(str(native / "tarvex"), cwd=native):
+        wait_for(MENU)
+        require((native / "Tarvex.INI").read_bytes() == b"C:\\FS2000\r\nN\r\nW\r\nW\r\n", "the settings file")
+        change_and_save(machine, picture)
+
+
+ROADS = [
+    first_start_with_registry,
+    first_start_without_registry,
+    stored_star_changed_and_saved,
+    folder_with_blanks_and_letters,
+    drive_root,
+    locked_file,
+    read_only_folder,
+    native_program_beside_the_prefix,
+]
+
+
+def main():
+    global HOLD_FILE, NATIVE
+    exe, HOLD_FILE, sample, pictures = (Path(argument).resolve() for argument in sys.argv[1:5])
+    NATIVE = Path(sys.argv[5]).resolve() if len(sys.argv) > 5 else None
+    only = os.environ.get("TARVEX_ROAD", "")
+    pictures.mkdir(parents=True, exist_ok=True)
+    passed = failed = skipped = 0
+    with tempfile.TemporaryDirectory(ignore_cleanup_errors=True) as place:
+        os.environ.update(WINEPREFIX=f"{place}/prefix", WINEDEBUG="-all", WINEDLLOVERRIDES="mscoree,mshtml=",
+                          HOME=place, XDG_CONFIG_HOME=f"{place}/config")
+        subprocess.run([WINE, "wineboot", "-i"], check=True, capture_output=True, timeout=300)
+        machine = Machine(Path(place), exe, sample)
+        for road in ROADS:
+            if only not in road.__name__ or (road is native_program_beside_the_prefix and NATIVE is None):
+                continue
+            picture = lambda name=road.__name__: run("import", "-window", "root", f"{pictures}/{name}.png")
+            try:
+                note = road(machine, picture)
+                skipped += note is not None
+                passed += note is None
+                print(f"{'PASS' if note is None else 'SKIP'} {road.__name__} {note or ''}", flush=True)
+            except (RoadFailed, OSError, subprocess.SubprocessError) as fault:
+                failed += 1
+                run("import", "-window", "root", f"{pictures}/{road.__name__}-failed.png")
+                print(f"FAIL {road.__name__}: {fault}", flush=True)
+    print(f"{passed} passed, {failed} failed, {skipped} skipped")
+    return 1 if failed or not passed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
