@@ -19,7 +19,10 @@ wxColour BoxBackground(Colour colour) {
     if (colour == White) return wxNullColour;
     const wxColour page = wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE);
     const wxColour ink = wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT);
-    return Mixed(page, ink, colour == LightGrey ? 0.03 : 0.10);
+    // A box out of use must not outshine those in use, which are darker than the page in a dark theme.
+    const bool dark = page.GetLuminance() < ink.GetLuminance();
+    const double share = colour == LightGrey ? 0.03 : 0.10;
+    return Mixed(page, ink, dark ? share / 2 : share);
 }
 
 }  // namespace tarvex

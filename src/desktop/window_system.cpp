@@ -42,7 +42,20 @@ GtkWidget* Core(const wxWindow& widget) {
     return list != nullptr ? list : outer;
 }
 
+// A message stands too close to the edges where the window manager draws the title.
+constexpr char Style[] =
+    "messagedialog > box > box { padding: 1em 1.2em 0.6em; }"
+    "messagedialog > box > buttonbox { padding: 0.4em 0.6em 0.6em; }";
+
 }  // namespace
+
+void PolishLooks() {
+    GtkCssProvider* style = gtk_css_provider_new();
+    gtk_css_provider_load_from_data(style, Style, -1, nullptr);
+    gtk_style_context_add_provider_for_screen(gdk_screen_get_default(), GTK_STYLE_PROVIDER(style),
+                                              GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
+    g_object_unref(style);
+}
 
 void RunNext(std::function<void()> task) {
     g_idle_add_full(G_PRIORITY_HIGH, RunTask, new std::function<void()>(std::move(task)), DeleteTask);
@@ -64,6 +77,8 @@ bool HoldsFocusOfWindow(const wxWindow& widget) {
 }
 
 #else
+
+void PolishLooks() {}
 
 void RunNext(std::function<void()> task) {
     wxTheApp->CallAfter(std::move(task));

@@ -8,6 +8,9 @@
 // What the window systems do not have in common. All calls of a particular one stand in window_system.cpp.
 namespace tarvex {
 
+// Once, before the first window: mends what the system's own widgets lack in looks.
+void PolishLooks();
+
 // Runs `task` from the event loop before any further event of the user.
 void RunNext(std::function<void()> task);
 
