@@ -38,7 +38,18 @@ wxSize FormBuilder::SizeOf(wxSize characters) const {
 }
 
 wxStaticText* FormBuilder::Put(Label& label, LabelStyle style) {
-    auto* widget = new wxStaticText(ParentOf(label), wxID_ANY, wxString());
+    return PutText(label, style, 0);
+}
+
+wxStaticText* FormBuilder::PutShort(Label& label, LabelStyle style) {
+    wxStaticText* widget = PutText(label, style, wxST_ELLIPSIZE_MIDDLE | wxST_NO_AUTORESIZE);
+    widget->SetMinSize({1, widget->GetCharHeight() + 2});
+    return widget;
+}
+
+wxStaticText* FormBuilder::PutText(Label& label, LabelStyle style, long flags) {
+    auto* widget =
+        new wxStaticText(ParentOf(label), wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize, flags);
     wxFont font = widget->GetFont();
     if (style == LabelStyle::Heading) font.Scale(1.5f);
     if (style != LabelStyle::Plain) widget->SetFont(font.Bold());

@@ -36,6 +36,8 @@ class FormBuilder {
     int Gap() const;
 
     wxStaticText* Put(Label& label, LabelStyle style = LabelStyle::Plain);
+    // A label of any length: what its place has no room for is left out.
+    wxStaticText* PutShort(Label& label, LabelStyle style = LabelStyle::Plain);
     // The label in one widget for each of its parts: the last word of the caption, then the ones before it.
     std::vector<wxStaticText*> PutInParts(Label& label, std::size_t parts);
     // `characters` is the width, `spoken` what a screen reader calls the box.
@@ -62,6 +64,7 @@ class FormBuilder {
     wxBoxSizer* Content();
 
   private:
+    wxStaticText* PutText(Label& label, LabelStyle style, long flags);
     wxWindow* ParentOf(const Control& control) const;
     wxSize SizeOf(wxSize characters) const;
 

@@ -102,12 +102,11 @@ wxSizer* EditorLayout::Names() {
     row->AddSpacer(2 * gap_);
     row->Add(put_.Put(editor_.RwySpecificCheck), middle_);
     row->AddSpacer(3 * gap_);
-    row->AddStretchSpacer();
     row->Add(put_.Put(editor_.FilenameLabel), middle_);
     row->AddSpacer(gap_);
-    wxStaticText* name = put_.Put(editor_.FilenameText, LabelStyle::Section);
-    name->SetMinSize({name->GetTextExtent("KWWW-WWWWWWW.WWW.wwy").x, -1});
-    row->Add(name, middle_);
+    wxStaticText* name = put_.PutShort(editor_.FilenameText, LabelStyle::Section);
+    name->SetMinSize({name->GetTextExtent("KWWW-WWWWWWW.WWW.wwy").x, name->GetMinHeight()});
+    row->Add(name, wxSizerFlags(1).CentreVertical());
     return row;
 }
 

@@ -22,7 +22,7 @@ void LayOutFindFolder(Form& form, NativeForm& window) {
     inner->AddSpacer(gap);
     inner->Add(put.Put(screen.Dir1, {34, 6}, "Folder"), wxSizerFlags(1).Expand());
     inner->AddSpacer(gap);
-    inner->Add(put.Put(screen.DataHintLabel), wxSizerFlags().Expand());
+    inner->Add(put.PutShort(screen.DataHintLabel), wxSizerFlags().Expand());
     inner->AddSpacer(gap);
     wxAnyButton* done = put.Put(screen.FindDoneCommand);
     done->SetMinSize({12 * gap, -1});

@@ -82,12 +82,11 @@ void FolderListBinder::ToDoor(bool open) {
 std::vector<FolderListBinder::Line> FolderListBinder::Lines() const {
     constexpr int Indent = 3;
     std::vector<Line> lines;
-    std::size_t depth = 0;
     for (int index = list_.FirstIndex(); index < list_.ListCount(); ++index) {
+        const int depth = std::min(index, 0) - list_.FirstIndex();
         lines.push_back(
             {index, list_.List(index),
-             wxString(' ', depth * Indent) + Shown(static_cast<const FolderList&>(list_).Name(index))});
-        if (index <= FolderList::OpenFolder) ++depth;
+             wxString(' ', static_cast<std::size_t>(depth * Indent + 1)) + Shown(list_.Name(index))});
     }
     return lines;
 }

@@ -69,8 +69,12 @@ void PlaceBeside(NativeForm& window, const NativeForm& anchor, const std::vector
         window.SetPosition(*found);
         return;
     }
-    const int x = std::min(right, screen.GetRight() - size.x);
+    int x = std::min(right, screen.GetRight() - size.x);
     const int y = std::min(other.GetBottom(), screen.GetBottom()) - size.y;
+    for (const wxRect& rect : taken) {
+        const int beyond = rect.GetLeft() - Gap - size.x;
+        if (rect.Intersects({wxPoint(x, y), size}) && beyond > other.GetLeft() + other.width / 4) x = beyond;
+    }
     window.SetPosition({std::max(screen.GetLeft(), x), std::max(screen.GetTop(), y)});
 }
 
