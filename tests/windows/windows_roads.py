@@ -53,11 +53,22 @@ def window_titled(title):
     return found[0] if found else None
 
 
+def picture_of(window):
+    """A digest of what the window shows; empty while it shows nothing."""
+    image = subprocess.run(["import", "-window", window, "-format", "%k %#", "info:"], capture_output=True, text=True)
+    colours, _, digest = image.stdout.partition(" ")
+    return digest if colours.isdigit() and int(colours) > 2 else ""
+
+
 def wait_for(title):
-    """The window of that title, once it takes the keys."""
+    """The window of that title, once it takes the keys and is painted."""
     def ready():
         window = window_titled(title)
-        return window if window and run("xdotool", "getactivewindow").strip() == window else None
+        if not window or run("xdotool", "getactivewindow").strip() != window:
+            return None
+        before = picture_of(window)
+        time.sleep(0.2)
+        return window if before and before == picture_of(window) else None
     return poll(ready, f"active window {title!r}")
 
 
