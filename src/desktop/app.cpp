@@ -4,7 +4,6 @@
 
 #include "desktop/desktop.h"
 #include "desktop/native_message_box.h"
-#include "desktop/window_system.h"
 #include "toolkit/native_clock.h"
 #include "toolkit/native_file_system.h"
 #include "toolkit/native_registry.h"
@@ -28,7 +27,6 @@ bool App::OnInit() {
     SetAppName("tarvex");
     SetAppDisplayName("Tarvex");
     SetExitOnFrameDelete(false);
-    PolishLooks();
     try {
         run_ = std::make_unique<Run>();
     } catch (const Failure& failure) {

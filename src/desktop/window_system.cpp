@@ -42,20 +42,7 @@ GtkWidget* Core(const wxWindow& widget) {
     return list != nullptr ? list : outer;
 }
 
-// A message stands too close to the edges where the window manager draws the title.
-constexpr char Style[] =
-    "messagedialog > box > box { padding: 1em 1.2em 0.6em; }"
-    "messagedialog > box > buttonbox { padding: 0.4em 0.6em 0.6em; }";
-
 }  // namespace
-
-void PolishLooks() {
-    GtkCssProvider* style = gtk_css_provider_new();
-    gtk_css_provider_load_from_data(style, Style, -1, nullptr);
-    gtk_style_context_add_provider_for_screen(gdk_screen_get_default(), GTK_STYLE_PROVIDER(style),
-                                              GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
-    g_object_unref(style);
-}
 
 void RunNext(std::function<void()> task) {
     g_idle_add_full(G_PRIORITY_HIGH, RunTask, new std::function<void()>(std::move(task)), DeleteTask);
@@ -68,6 +55,10 @@ void NameForAccess(wxWindow& widget, const std::string& id, const wxString& spok
     if (!spoken.empty()) atk_object_set_name(access, spoken.utf8_str());
 }
 
+void MarkAsAlert(wxWindow& window) {
+    atk_object_set_role(gtk_widget_get_accessible(window.GetHandle()), ATK_ROLE_ALERT);
+}
+
 bool HoldsFocusOfWindow(const wxWindow& widget) {
     GtkWidget* own = widget.GetHandle();
     GtkWidget* window = gtk_widget_get_toplevel(own);
@@ -78,8 +69,6 @@ bool HoldsFocusOfWindow(const wxWindow& widget) {
 
 #else
 
-void PolishLooks() {}
-
 void RunNext(std::function<void()> task) {
     wxTheApp->CallAfter(std::move(task));
 }
@@ -87,6 +76,8 @@ void RunNext(std::function<void()> task) {
 void NameForAccess(wxWindow& widget, const std::string& id, const wxString&) {
     widget.SetName(id);
 }
+
+void MarkAsAlert(wxWindow&) {}
 
 bool HoldsFocusOfWindow(const wxWindow& widget) {
     for (const wxWindow* focus = wxWindow::FindFocus(); focus != nullptr; focus = focus->GetParent()) {

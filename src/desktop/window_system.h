@@ -8,15 +8,15 @@
 // What the window systems do not have in common. All calls of a particular one stand in window_system.cpp.
 namespace tarvex {
 
-// Once, before the first window: mends what the system's own widgets lack in looks.
-void PolishLooks();
-
 // Runs `task` from the event loop before any further event of the user.
 void RunNext(std::function<void()> task);
 
 // Names a widget for programs that drive or read the screen: `id` is the name of its control, `spoken` what a
 // screen reader says, where it differs from what the widget shows; empty leaves that to the widget.
 void NameForAccess(wxWindow& widget, const std::string& id, const wxString& spoken);
+
+// Makes a screen reader read the window out when it comes up.
+void MarkAsAlert(wxWindow& window);
 
 // Whether the widget, or a part of it, has the focus within its window, be the window active or not.
 bool HoldsFocusOfWindow(const wxWindow& widget);
