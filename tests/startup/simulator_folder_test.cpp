@@ -10,7 +10,7 @@ namespace {
 constexpr std::uint32_t LocalMachine = 0x80000002;
 
 // The value of that many bytes, closing zero included.
-std::string WithZero(std::string text) {
+std::string WithZero(const std::string& text) {
     return text + '\0';
 }
 

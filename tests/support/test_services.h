@@ -57,12 +57,13 @@ class FakeRegistry : public Registry {
     bool OpenKey(std::uint32_t root, const std::string& path, std::uint32_t, Key& key) override {
         const auto found = values_.find({root, path});
         if (found == values_.end()) return false;
-        key = reinterpret_cast<Key>(&found->second);
+        opened_.push_back(&found->second);
+        key = opened_.size() - 1;
         ++openKeys_;
         return true;
     }
     bool QueryValue(Key key, const std::string& name, char* buffer, std::uint32_t& size) override {
-        const auto& values = *reinterpret_cast<const std::map<std::string, std::string>*>(key);
+        const Values& values = *opened_.at(key);
         const auto found = values.find(name);
         if (found == values.end()) return false;
         const auto needed = static_cast<std::uint32_t>(found->second.size());
@@ -76,7 +77,10 @@ class FakeRegistry : public Registry {
     void CloseKey(Key) override { --openKeys_; }
 
   private:
-    std::map<std::pair<std::uint32_t, std::string>, std::map<std::string, std::string>> values_;
+    using Values = std::map<std::string, std::string>;
+
+    std::map<std::pair<std::uint32_t, std::string>, Values> values_;
+    std::vector<const Values*> opened_;  // by key
     int openKeys_ = 0;
 };
 
