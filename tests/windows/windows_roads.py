@@ -114,6 +114,9 @@ class Machine:
                                    stderr=subprocess.PIPE, text=True)
         try:
             yield process
+        except BaseException:
+            run("import", "-window", "root", f"{PICTURES}/failed.png")
+            raise
         finally:
             process.kill()
             subprocess.run([WINESERVER, "-k"], check=False)
@@ -133,14 +136,15 @@ def leave_by_menu(process, tabs):
     require(process.returncode == 0, f"exit status {process.returncode}")
 
 
-def open_star():
+def open_star(first_file=(90, 51)):
+    """`first_file` is where the first line of the picker's list stands in its window."""
     wait_for(MENU)
     keys("Tab", "Tab", "Return")
     picker = wait_for(PICKER)
     keys("Tab")
     subprocess.run(["xdotool", "type", "--delay", "30", "kjfk"], check=True)
     time.sleep(0.3)
-    click(picker, 90, 51)
+    click(picker, *first_file)
 
 
 def set_airspeed_of_first_row(speed):
@@ -162,9 +166,9 @@ def changed(content, speed):
     return b"\r\n".join(lines[1:])
 
 
-def change_and_save(machine, picture):
+def change_and_save(machine, picture, **where):
     before = machine.star().read_bytes()
-    open_star()
+    open_star(**where)
     wait_for(EDITOR)
     set_airspeed_of_first_row("211")
     picture()
@@ -282,7 +286,7 @@ def native_program_beside_the_prefix(machine, picture):
     with machine.program(str(native / "tarvex"), cwd=native):
         wait_for(MENU)
         require((native / "Tarvex.INI").read_bytes() == b"C:\\FS2000\r\nN\r\nW\r\nW\r\n", "the settings file")
-        change_and_save(machine, picture)
+        change_and_save(machine, picture, first_file=(90, 66))
 
 
 ROADS = [
@@ -298,11 +302,11 @@ ROADS = [
 
 
 def main():
-    global HOLD_FILE, NATIVE
-    exe, HOLD_FILE, sample, pictures = (Path(argument).resolve() for argument in sys.argv[1:5])
+    global HOLD_FILE, NATIVE, PICTURES
+    exe, HOLD_FILE, sample, PICTURES = (Path(argument).resolve() for argument in sys.argv[1:5])
     NATIVE = Path(sys.argv[5]).resolve() if len(sys.argv) > 5 else None
     only = os.environ.get("TARVEX_ROAD", "")
-    pictures.mkdir(parents=True, exist_ok=True)
+    PICTURES.mkdir(parents=True, exist_ok=True)
     passed = failed = skipped = 0
     with tempfile.TemporaryDirectory(ignore_cleanup_errors=True) as place:
         os.environ.update(WINEPREFIX=f"{place}/prefix", WINEDEBUG="-all", WINEDLLOVERRIDES="mscoree,mshtml=",
@@ -312,7 +316,7 @@ def main():
         for road in ROADS:
             if only not in road.__name__ or (road is native_program_beside_the_prefix and NATIVE is None):
                 continue
-            picture = lambda name=road.__name__: run("import", "-window", "root", f"{pictures}/{name}.png")
+            picture = lambda name=road.__name__: run("import", "-window", "root", f"{PICTURES}/{name}.png")
             try:
                 note = road(machine, picture)
                 skipped += note is not None
@@ -320,7 +324,8 @@ def main():
                 print(f"{'PASS' if note is None else 'SKIP'} {road.__name__} {note or ''}", flush=True)
             except (RoadFailed, OSError, subprocess.SubprocessError) as fault:
                 failed += 1
-                run("import", "-window", "root", f"{pictures}/{road.__name__}-failed.png")
+                with contextlib.suppress(OSError):
+                    (PICTURES / "failed.png").rename(PICTURES / f"{road.__name__}-failed.png")
                 print(f"FAIL {road.__name__}: {fault}", flush=True)
     print(f"{passed} passed, {failed} failed, {skipped} skipped")
     return 1 if failed or not passed else 0
