@@ -34,20 +34,22 @@ class FileSystem {
 
     virtual FileText Read(const std::string& path) = 0;
 
-    // Creates the file or replaces what it held. What was written before a failure stays.
+    // Creates the file or replaces what it held. A disk without the room for it leaves the file as it was; of
+    // any later failure what was written stays.
     virtual void Write(const std::string& path, std::string_view text) = 0;
 
     // The stored name, without folder, of the normal file that `path` leads to; nothing when there is none.
     // A missing folder is PathNotFound.
     virtual std::optional<std::string> FindFile(const std::string& path) = 0;
 
-    // Names of the plain files of a folder, in no particular order.
+    // Names of the plain files of a folder, in no particular order. Leaves out what the system keeps hidden,
+    // and names that no path can hold.
     virtual std::vector<std::string> Files(const std::string& folder) = 0;
 
     // Names of the sub-folders of a folder, in no particular order, without "." and "..".
     virtual std::vector<std::string> Folders(const std::string& folder) = 0;
 
-    // The drives to choose from, as "C:\" ; beside them, or alone where there are none, "\" for the root.
+    // The drives to choose from, as "C:\"; on a system whose root is above all drives also "\", behind them.
     virtual std::vector<std::string> Drives() = 0;
 
     // The folder of the process as a path of this file system.

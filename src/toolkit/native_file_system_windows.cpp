@@ -163,8 +163,7 @@ std::vector<std::string> WindowsFileSystem::Names(const std::string& folder, boo
 
     std::vector<std::string> names;
     WIN32_FIND_DATAA entry{};
-    const OpenSearch search(FindFirstFileExA(pattern.c_str(), FindExInfoBasic, &entry, FindExSearchNameMatch,
-                                             nullptr, FIND_FIRST_EX_LARGE_FETCH));
+    const OpenSearch search(FindFirstFileA(pattern.c_str(), &entry));
     if (!search.Good()) {
         // The root of an empty drive holds not even "." and "..".
         if (GetLastError() == ERROR_FILE_NOT_FOUND) return names;
