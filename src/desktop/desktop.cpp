@@ -141,7 +141,7 @@ void Desktop::SettleFocus(bool selectAll) {
 void Desktop::BringToFront(NativeForm& window) {
     front_ = &window;
     awaited_ = window.IsActive() ? nullptr : &window;
-    window.Raise();
+    Present(window);
 }
 
 void Desktop::ActivatedByUser(NativeForm& window) {

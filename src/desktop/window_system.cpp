@@ -33,6 +33,12 @@ void FindList(GtkWidget* widget, gpointer found) {
     }
 }
 
+gboolean PresentMapped(GtkWidget* window, GdkEvent*, gpointer) {
+    g_signal_handlers_disconnect_by_func(window, reinterpret_cast<gpointer>(PresentMapped), nullptr);
+    gtk_window_present(GTK_WINDOW(window));
+    return GDK_EVENT_PROPAGATE;
+}
+
 // The widget that the user deals with: of a scrolled list the list.
 GtkWidget* Core(const wxWindow& widget) {
     GtkWidget* outer = widget.GetHandle();
@@ -59,6 +65,16 @@ void MarkAsAlert(wxWindow& window) {
     atk_object_set_role(gtk_widget_get_accessible(window.GetHandle()), ATK_ROLE_ALERT);
 }
 
+void Present(wxWindow& window) {
+    if (gtk_widget_get_mapped(window.GetHandle())) {
+        window.Raise();
+        return;
+    }
+    // A new window is put on the screen only after the window manager has told the size of its border, and a
+    // request for the keyboard before that is lost.
+    g_signal_connect(window.GetHandle(), "map-event", G_CALLBACK(PresentMapped), nullptr);
+}
+
 bool HoldsFocusOfWindow(const wxWindow& widget) {
     GtkWidget* own = widget.GetHandle();
     GtkWidget* window = gtk_widget_get_toplevel(own);
@@ -78,6 +94,10 @@ void NameForAccess(wxWindow& widget, const std::string& id, const wxString&) {
 }
 
 void MarkAsAlert(wxWindow&) {}
+
+void Present(wxWindow& window) {
+    window.Raise();
+}
 
 bool HoldsFocusOfWindow(const wxWindow& widget) {
     for (const wxWindow* focus = wxWindow::FindFocus(); focus != nullptr; focus = focus->GetParent()) {

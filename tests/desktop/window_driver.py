@@ -173,6 +173,13 @@ class Program:
         except GLib.Error:
             return []
 
+    def picture(self, name):
+        """Pictures the whole screen for a person to look at, if TARVEX_PICTURES names a folder for it."""
+        folder = os.environ.get("TARVEX_PICTURES")
+        if folder:
+            time.sleep(0.5)
+            subprocess.run(["import", "-window", "root", f"{folder}/{name}.png"], check=True)
+
     def wait_gone(self, caption):
         until(lambda: caption not in self.captions(), f'the end of the window "{caption}"')
 
@@ -254,12 +261,6 @@ class Window:
         """The words of a message box."""
         labels = (node for node in self.root.descendants() if node.role() == "label")
         return "\n".join(filter(None, (label.caption() for label in labels)))
-
-    def picture(self, file):
-        """Writes what the window shows to a PNG file."""
-        left, top, width, height = self.root.area()
-        crop = f"{width}x{height}+{left}+{top}"
-        subprocess.run(["import", "-window", "root", "-crop", crop, "+repage", str(file)], check=True)
 
     def _line(self, name, line):
         for node in self.node(name).descendants():
