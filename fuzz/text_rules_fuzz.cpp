@@ -98,7 +98,7 @@ void CheckNumberIn(std::string_view text) {
     Require(IsNumberText(text) == strict.has_value(), "a number's text is one that can be taken", {text});
     if (strict) {
         Require(std::isfinite(*strict), "a number is finite", {text});
-        const bool plain = text.find_first_of(",") == std::string_view::npos && !Trim(text).ends_with('-');
+        const bool plain = text.find(',') == std::string_view::npos && !Trim(text).ends_with('-');
         Require(!plain || *strict == leading, "a number is what its text begins with", {text});
         CheckNumber(*strict);
     }
