@@ -28,17 +28,21 @@ const WaypointRecord& KeptRow() {
     return row;
 }
 
-// The state of a program that has edited something before, with one runway in its tables.
+// The state of a program that has edited something before, with one runway in its tables. Who changes rows
+// puts them back: filling the whole table anew each time would take most of the time.
 SharedState& StateBefore(const char* mode) {
-    static SharedState state;
-    state.ProgramVersion = "2.35";
-    state.ProcedureFolder = "C:\\P\\";
-    state.ProcedureFileName = "KXYZ-DEMO1.wap";
+    static SharedState state = [] {
+        SharedState made;
+        made.ProgramVersion = "2.35";
+        made.ProcedureFolder = "C:\\P\\";
+        made.ProcedureFileName = "KXYZ-DEMO1.wap";
+        made.Navigation.AirportTable[0] = {"KXYZ27L", "", "", 126};
+        made.Navigation.AirportCount = 0;
+        made.WaypointTable.fill(KeptRow());
+        return made;
+    }();
     state.ProcedureMode = mode;
-    state.Navigation.AirportTable[0] = {"KXYZ27L", "", "", 126};
-    state.Navigation.AirportCount = 0;
     state.WaypointCount = KeptCount;
-    state.WaypointTable.fill(KeptRow());
     return state;
 }
 
