@@ -1,0 +1,50 @@
+#include "toolkit/display_text.h"
+
+#include <gtest/gtest.h>
+
+namespace tarvex {
+namespace {
+
+TEST(DisplayTextTest, BytesAreShownAsTheirCharacters) {
+    struct Case {
+        std::string_view text;
+        std::u32string_view shown;
+    };
+    const Case cases[] = {
+        {"KJFK & Co", U"KJFK & Co"},
+        {"\x80\x93\x9F\xE9", U"\u20AC\u201C\u0178\u00E9"},                    // Windows Latin-1
+        {"\xC3\xA9\xE2\x82\xAC\xF0\x9F\x9B\xAB", U"\u00E9\u20AC\U0001F6EB"},  // UTF-8
+        {"\xC3", U"\u00C3"},                                                  // UTF-8 cut off
+        {"\xC0\xAF\xE0\x80\x80", U"\u00C0\u00AF\u00E0\u20AC\u20AC"},          // overlong
+        {"\xED\xA0\x80", U"\u00ED\u00A0\u20AC"},                              // a surrogate
+        {std::string_view("a\0\x1B\x7F", 4), U"a\u2400\u241B\u2421"},
+    };
+    for (const auto& [text, shown] : cases) EXPECT_EQ(ShownText(text), shown) << text;
+}
+
+TEST(DisplayTextTest, TypingKeepsTheBytesThatWereThere) {
+    struct Case {
+        std::string_view before;
+        std::u32string_view shown;
+        std::string_view typed;
+    };
+    const Case cases[] = {
+        {"", U"caf\u00E9 \u20AC", "caf\xE9 \x80"},
+        {"caf\xC3\xA9", U"caf\u00E9s", "caf\xC3\xA9s"},
+        {"\xC3\xA9x\xE9", U"\u00E9\u00E9", "\xC3\xA9\xE9"},
+        {"aaa", U"aa", "aa"},
+        {"abc", U"a\u4E2Dbc", "abc"},  // no such letter in the code page
+        {"a\x01z", U"a\u2401yz", "a\x01yz"},
+        {"", U"\n", ""},
+    };
+    for (const auto& [before, shown, typed] : cases) EXPECT_EQ(TypedText(before, shown), typed) << typed;
+}
+
+TEST(DisplayTextTest, CaptionsLoseTheBlanksThatCentreThem) {
+    EXPECT_EQ(PlainCaption("   Clear All    Input Boxes"), "Clear All Input Boxes");
+    EXPECT_EQ(PlainCaption(" Lower\r\n Altitude"), "Lower Altitude");
+    EXPECT_EQ(PlainCaption("  "), "");
+}
+
+}  // namespace
+}  // namespace tarvex
