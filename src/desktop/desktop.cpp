@@ -61,8 +61,8 @@ void Desktop::FormShown(Form& form) {
     if (window == nullptr) window = &MakeWindow(form);
     window->Flush();
     const Mute mute(*this);
-    window->Show();
     BringToFront(*window);
+    window->Show();
 }
 
 void Desktop::FormHidden(Form& form) {

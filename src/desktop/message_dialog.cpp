@@ -83,6 +83,7 @@ wxSizer* MessageDialog::MakeButtons(const Message& message) {
 
 int MessageDialog::ShowModal() {
     if (first_ != nullptr) first_->SetFocus();
+    Present(*this);
     return wxDialog::ShowModal();
 }
 

@@ -5,6 +5,7 @@
 #include <wx/app.h>
 
 #ifdef __WXGTK__
+#include <gdk/gdkx.h>
 #include <gtk/gtk.h>
 #endif
 
@@ -33,9 +34,23 @@ void FindList(GtkWidget* widget, gpointer found) {
     }
 }
 
+// Marks the window as one that the user has just dealt with, and gives the time of that. A window manager
+// that guards against windows which steal the keyboard goes by it.
+guint32 MarkAsUsed(GtkWidget* window) {
+    gtk_widget_realize(window);
+    GdkWindow* native = gtk_widget_get_window(window);
+    if (!GDK_IS_X11_WINDOW(native)) return GDK_CURRENT_TIME;
+    // The server tells its time through an event of this kind.
+    gdk_window_set_events(
+        native, static_cast<GdkEventMask>(gdk_window_get_events(native) | GDK_PROPERTY_CHANGE_MASK));
+    const guint32 now = gdk_x11_get_server_time(native);
+    gdk_x11_window_set_user_time(native, now);
+    return now;
+}
+
 gboolean PresentMapped(GtkWidget* window, GdkEvent*, gpointer) {
     g_signal_handlers_disconnect_by_func(window, reinterpret_cast<gpointer>(PresentMapped), nullptr);
-    gtk_window_present(GTK_WINDOW(window));
+    gtk_window_present_with_time(GTK_WINDOW(window), MarkAsUsed(window));
     return GDK_EVENT_PROPAGATE;
 }
 
@@ -66,13 +81,15 @@ void MarkAsAlert(wxWindow& window) {
 }
 
 void Present(wxWindow& window) {
-    if (gtk_widget_get_mapped(window.GetHandle())) {
-        window.Raise();
+    GtkWidget* native = window.GetHandle();
+    const guint32 now = MarkAsUsed(native);
+    if (gtk_widget_get_mapped(native)) {
+        gtk_window_present_with_time(GTK_WINDOW(native), now);
         return;
     }
     // A new window is put on the screen only after the window manager has told the size of its border, and a
     // request for the keyboard before that is lost.
-    g_signal_connect(window.GetHandle(), "map-event", G_CALLBACK(PresentMapped), nullptr);
+    g_signal_connect(native, "map-event", G_CALLBACK(PresentMapped), nullptr);
 }
 
 bool HoldsFocusOfWindow(const wxWindow& widget) {

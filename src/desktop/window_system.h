@@ -18,7 +18,8 @@ void NameForAccess(wxWindow& widget, const std::string& id, const wxString& spok
 // Makes a screen reader read the window out when it comes up.
 void MarkAsAlert(wxWindow& window);
 
-// Brings a shown window to the front and gives it the keyboard, once it really is on the screen.
+// Brings a window to the front and gives it the keyboard, one that is about to be shown once it really is on
+// the screen. That this is the user's wish goes without saying: every change of a window is.
 void Present(wxWindow& window);
 
 // Whether the widget, or a part of it, has the focus within its window, be the window active or not.

@@ -122,13 +122,11 @@ bool UserDoor::Activate(Form& form) {
     bool moved = false;
     host_.RunEvent([&] {
         if (!OnScreen(host_, form)) return;
-        host_.Raised(form);
-        Control* current = host_.GetFocus().Current();
-        if (current != nullptr && &current->Owner() == &form) {
-            moved = true;
-        } else {
-            moved = host_.GetFocus().Activate(form);
-        }
+        const Control* current = host_.GetFocus().Current();
+        const bool here = current != nullptr && &current->Owner() == &form;
+        moved = here || host_.GetFocus().Activate(form);
+        // Where the focus was not let go, the form that holds it stays in front.
+        if (moved) host_.Raised(form);
     });
     return moved;
 }
