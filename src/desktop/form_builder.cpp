@@ -57,15 +57,6 @@ wxStaticText* FormBuilder::PutText(Label& label, LabelStyle style, long flags) {
     return widget;
 }
 
-std::vector<wxStaticText*> FormBuilder::PutInParts(Label& label, std::size_t parts) {
-    std::vector<wxStaticText*> widgets;
-    for (std::size_t i = 0; i < parts; ++i) {
-        widgets.push_back(new wxStaticText(ParentOf(label), wxID_ANY, wxString()));
-    }
-    window_.Bind<LabelBinder>(label, widgets);
-    return widgets;
-}
-
 wxTextCtrl* FormBuilder::Put(TextBox& box, int characters, const wxString& spoken) {
     auto* widget = new wxTextCtrl(ParentOf(box), wxID_ANY);
     widget->SetInitialSize(widget->GetSizeFromTextSize(SizeOf({characters, 1}).x));
@@ -149,6 +140,38 @@ wxSizer* FormBuilder::Put(Frame& frame, wxOrientation orientation) {
     frames_[&frame] = box;
     window_.Bind<FrameBinder>(frame, *box);
     return new wxStaticBoxSizer(box, orientation);
+}
+
+void FormBuilder::Put(const Axis& axis, wxFlexGridSizer& grid) {
+    const auto middle = wxSizerFlags().CentreVertical();
+    // The caption names the two boxes and the axis; each name has its own place.
+    std::vector<wxStaticText*> labels;
+    for (int part = 0; part < 3; ++part) {
+        labels.push_back(new wxStaticText(ParentOf(axis.label), wxID_ANY, wxString()));
+    }
+    window_.Bind<LabelBinder>(axis.label, labels);
+    const wxString spoken(axis.spoken);
+
+    wxSizer* options = Put(axis.hemisphere, wxHORIZONTAL);
+    wxRadioButton* first = Put(axis.first);
+    // Lined up with the options of the other axis.
+    first->SetMinSize({first->GetTextExtent("North Long").x + 3 * Gap(), -1});
+    options->Add(first, middle);
+    options->AddSpacer(Gap());
+    options->Add(Put(axis.second), middle);
+
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    row->Add(labels[1], middle);
+    row->AddSpacer(Gap());
+    row->Add(Put(axis.degrees, 5, spoken + " degrees"), middle);
+    row->AddSpacer(2 * Gap());
+    row->Add(labels[2], middle);
+    row->AddSpacer(Gap());
+    row->Add(Put(axis.minutes, 10, spoken + " minutes"), middle);
+    row->AddSpacer(2 * Gap());
+    row->Add(Inside(axis.hemisphere), middle);
+    grid.Add(labels[0], middle);
+    grid.Add(row, middle);
 }
 
 wxWindow* FormBuilder::Line(wxOrientation orientation) {

@@ -26,6 +26,17 @@ class NativeForm;
 
 enum class LabelStyle { Plain, Section, Heading };
 
+// Degrees, minutes and hemisphere of a latitude or a longitude.
+struct Axis {
+    Label& label;
+    TextBox& degrees;
+    TextBox& minutes;
+    Frame& hemisphere;
+    OptionButton& first;
+    OptionButton& second;
+    const char* spoken;  // how a screen reader begins the names of the boxes
+};
+
 // Makes the widgets of a form's controls. A control goes onto the page, or into the box of its frame, which
 // must have been put before it.
 class FormBuilder {
@@ -38,8 +49,6 @@ class FormBuilder {
     wxStaticText* Put(Label& label, LabelStyle style = LabelStyle::Plain);
     // A label of any length: what its place has no room for is left out.
     wxStaticText* PutShort(Label& label, LabelStyle style = LabelStyle::Plain);
-    // The label in one widget for each of its parts: the last word of the caption, then the ones before it.
-    std::vector<wxStaticText*> PutInParts(Label& label, std::size_t parts);
     // `characters` is the width, `spoken` what a screen reader calls the box.
     wxTextCtrl* Put(TextBox& box, int characters, const wxString& spoken);
     wxAnyButton* Put(Button& button);
@@ -58,6 +67,9 @@ class FormBuilder {
     wxWindow* Inside(const Frame& frame) const;
     // Where controls stand that belong to no frame; null: on the page.
     void StandIn(wxWindow* parent) { parent_ = parent; }
+
+    // A line of a grid of two columns: the name of the axis, and behind it all that belongs to it.
+    void Put(const Axis& axis, wxFlexGridSizer& grid);
 
     wxWindow* Line(wxOrientation orientation);
     // A sizer that becomes the page's, with a margin round it.

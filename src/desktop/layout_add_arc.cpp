@@ -23,23 +23,20 @@ void LayOutAddArc(Form& form, NativeForm& window) {
     boxes->Add(put.Put(arc.ArcRadiusText, 6, "ARC Radius"), middle);
 
     wxSizer* turn = put.Put(arc.Frame1, wxVERTICAL);
-    turn->Add(put.Put(arc.RightOption), wxSizerFlags().Border(wxALL, gap / 2));
-    turn->Add(put.Put(arc.LeftOption), wxSizerFlags().Border(wxALL, gap / 2));
+    turn->Add(put.Put(arc.RightOption), wxSizerFlags().Border(wxALL, gap));
+    turn->Add(put.Put(arc.LeftOption), wxSizerFlags().Border(wxLEFT | wxRIGHT | wxBOTTOM, gap));
 
     wxSizer* variation = put.Put(arc.Frame2, wxHORIZONTAL);
     put.StandIn(put.Inside(arc.Frame2));
-    variation->Add(put.Put(arc.MagVarText, 6, "Magnetic Variation"),
-                   wxSizerFlags(middle).Border(wxALL, gap / 2));
-    variation->AddSpacer(gap);
-    variation->Add(put.Put(arc.EastVarOption), wxSizerFlags(middle).Border(wxALL, gap / 2));
-    variation->AddSpacer(gap);
-    variation->Add(put.Put(arc.WestVarOption), wxSizerFlags(middle).Border(wxALL, gap / 2));
+    variation->Add(put.Put(arc.MagVarText, 6, "Magnetic Variation"), wxSizerFlags(middle).Border(wxALL, gap));
+    variation->Add(put.Put(arc.EastVarOption), wxSizerFlags(middle).Border(wxALL, gap));
+    variation->Add(put.Put(arc.WestVarOption), wxSizerFlags(middle).Border(wxALL, gap));
     put.StandIn(nullptr);
 
     auto* upper = new wxBoxSizer(wxHORIZONTAL);
     upper->Add(boxes, wxSizerFlags().CentreVertical());
     upper->AddSpacer(3 * gap);
-    upper->Add(turn, wxSizerFlags(1).CentreVertical());
+    upper->Add(turn, wxSizerFlags(1).Top());
 
     auto* centre = new wxGridSizer(2, 0, gap);
     centre->Add(put.Put(arc.Command1), wxSizerFlags().Expand());

@@ -33,8 +33,6 @@ class EditorLayout {
     void Box(wxSizer& row, TextBox& box, int characters, const wxString& spoken);
     // Adds a line of the grid: a label, and what stands behind it.
     wxSizer* Row(wxFlexGridSizer& grid, wxWindow* label);
-    void Axis(wxFlexGridSizer& grid, Label& label, TextBox& degrees, TextBox& minutes, Frame& hemisphere,
-              OptionButton& first, OptionButton& second, const wxString& spoken);
     // The label with room for another caption that it gets later.
     wxStaticText* RoomFor(Label& label, const wxString& caption);
 
@@ -68,29 +66,6 @@ wxSizer* EditorLayout::Row(wxFlexGridSizer& grid, wxWindow* label) {
     return row;
 }
 
-void EditorLayout::Axis(wxFlexGridSizer& grid, Label& label, TextBox& degrees, TextBox& minutes,
-                        Frame& hemisphere, OptionButton& first, OptionButton& second,
-                        const wxString& spoken) {
-    const auto labels = put_.PutInParts(label, 3);
-    wxSizer* row = Row(grid, labels[0]);
-    row->Add(labels[1], middle_);
-    row->AddSpacer(gap_);
-    Box(*row, degrees, 5, spoken + " degrees");
-    row->AddSpacer(2 * gap_);
-    row->Add(labels[2], middle_);
-    row->AddSpacer(gap_);
-    Box(*row, minutes, 10, spoken + " minutes");
-    row->AddSpacer(2 * gap_);
-    wxSizer* options = put_.Put(hemisphere, wxHORIZONTAL);
-    wxRadioButton* left = put_.Put(first);
-    // Lined up with the options of the other axis.
-    left->SetMinSize({left->GetTextExtent("North Long").x + 3 * gap_, -1});
-    options->Add(left, middle_);
-    options->AddSpacer(gap_);
-    options->Add(put_.Put(second), middle_);
-    row->Add(put_.Inside(hemisphere), middle_);
-}
-
 wxSizer* EditorLayout::Names() {
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     Pair(*row, editor_.ICAOLabel, editor_.AptNameText, 6, "ICAO");
@@ -116,10 +91,12 @@ wxSizer* EditorLayout::WaypointBoxes() {
     Box(*row, editor_.FixNameText, 9, "Fix ID");
     Pair(*row, editor_.Label1, editor_.NAVIDText, 6, "Navaid ID");
     Pair(*row, editor_.Label2, editor_.FreqText, 8, "Navaid Frequency");
-    Axis(*grid, editor_.DMLatLabel, editor_.DDMLatText, editor_.DMMLatText, editor_.Frame1,
-         editor_.NLatOption, editor_.SLatOption, "Latitude");
-    Axis(*grid, editor_.DMLongLabel, editor_.DDMLongText, editor_.DMMLongText, editor_.Frame2,
-         editor_.ELongOption, editor_.WLongOption, "Longitude");
+    put_.Put({editor_.DMLatLabel, editor_.DDMLatText, editor_.DMMLatText, editor_.Frame1, editor_.NLatOption,
+              editor_.SLatOption, "Latitude"},
+             *grid);
+    put_.Put({editor_.DMLongLabel, editor_.DDMLongText, editor_.DMMLongText, editor_.Frame2,
+              editor_.ELongOption, editor_.WLongOption, "Longitude"},
+             *grid);
     row = Row(*grid, RoomFor(editor_.Alt1Label, "Lower Altitude"));
     Box(*row, editor_.Alt1Text, 9, "Altitude or Lower Altitude");
     Pair(*row, editor_.Alt2Label, editor_.Alt2Text, 9, "Upper Altitude");
