@@ -75,7 +75,10 @@ std::optional<Reading> Read(std::string_view text, const char* mode, bool fullDi
     Require(KeptFrom(state, state.WaypointCount), "rows behind the last one stay");
     for (const auto& path : files.Written()) Require(path == Path, "only the file itself is written", {path});
     const auto begin = state.WaypointTable.begin();
-    return Reading{Rows(begin, begin + state.WaypointCount), files.Content(Path), !files.Written().empty()};
+    const auto end = begin + state.WaypointCount;
+    Reading reading{Rows(begin, end), files.Content(Path), !files.Written().empty()};
+    std::fill(begin, end, KeptRow());
+    return reading;
 }
 
 // What a file can hold of an item: blanks and tabs in front of it and blanks behind it don't come back.
