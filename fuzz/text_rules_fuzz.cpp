@@ -87,6 +87,8 @@ void CheckNumber(double x) {
     if (!std::isfinite(x)) return;
     // Outside, 15 digits are past a double's range or more than it has.
     if (x != 0 && (std::abs(x) > 1e300 || std::abs(x) < 1e-300)) return;
+    Require(Int(x) <= x && x - Int(x) <= 1 && Int(x) == std::trunc(Int(x)), "the whole number below");
+    Require(std::abs(Fix(x)) <= std::abs(x) && Fix(x) == (x < 0 ? -Int(-x) : Int(x)), "the whole part");
     CheckTextOfNumber(x);
     CheckPattern(x);
 }
