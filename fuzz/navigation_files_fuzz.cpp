@@ -129,6 +129,7 @@ void TryFile(std::string_view text, std::size_t file) {
     for (std::size_t i = 0; i < NavigationFiles.size(); ++i) {
         files.Put(Simulator + std::string(NavigationFiles[i]), std::string(i == file ? text : ""));
     }
+    Require(HasNavigationData(files, Simulator), "all three files are there");
     const Plain plain = ReadPlainly(text, file);
     try {
         Require(LoadNavigationData(files, Simulator, tables).empty(), "a short file has room");
