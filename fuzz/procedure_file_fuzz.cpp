@@ -153,6 +153,23 @@ void CheckSave(Rows rows) {
     }
 }
 
+// What the editor makes of a file that it opens and saves without a change; nothing if it can't.
+std::optional<std::string> Resaved(Rows rows) {
+    for (auto& row : rows) OrderAltitudes(row);
+    return Saved(rows);
+}
+
+// A first save may lose blanks that stood in quotes; from then on the file stays as it is.
+void CheckResave(const Rows& rows) {
+    if (!std::all_of(rows.begin(), rows.end(), HasPosition)) return;
+    const auto first = Resaved(rows);
+    if (!first) return;
+    const auto second = Resaved(Reopened(*first, rows.size())->rows);
+    Require(second.has_value(), "a saved file can be saved", {*first});
+    const auto third = Resaved(Reopened(*second, rows.size())->rows);
+    Require(third == second, "a file that is opened and saved stays as it is", {*first, *second});
+}
+
 void CheckEditedSave(Rows rows) {
     for (auto& row : rows) row.CoordinatesEdited = True;
     const auto file = Saved(rows);
@@ -190,6 +207,7 @@ void TryInput(std::string_view input) {
             Require(reading->file == input, "a file without faults stays as it is");
         }
         CheckSave(reading->rows);
+        CheckResave(reading->rows);
         CheckEditedSave(reading->rows);
     }
 }

@@ -15,9 +15,12 @@ void ExchangeAltitudes(WaypointRecord& row) {
 }
 
 void OrderAltitudes(WaypointRecord& row) {
-    if (HasSecondAltitude(row) && LeadingNumber(row.Altitude2) < LeadingNumber(row.Altitude1)) {
-        ExchangeAltitudes(row);
-    }
+    if (!HasSecondAltitude(row)) return;
+    const double first = LeadingNumber(row.Altitude1);
+    const double second = LeadingNumber(row.Altitude2);
+    // The save exchanges them too: equal ones that stayed would change places with every save.
+    const bool equalBand = first == second && Trim(row.Altitude1) != "0";
+    if (second < first || equalBand) ExchangeAltitudes(row);
 }
 
 }  // namespace tarvex

@@ -98,11 +98,17 @@ TEST(AltitudeBand, IsOrderedByNumberWhenThereIsASecondAltitude) {
         const char* ordered1;
         const char* ordered2;
     } cases[] = {
-        {"9000", "3000", "3000", "9000"},   {"3000", "9000", "3000", "9000"},
-        {"10000", "9000", "9000", "10000"}, {"5000", "0", "5000", "0"},
-        {"5000", "00", "00", "5000"},       {"5000", "", "", "5000"},
-        {"", "5000", "", "5000"},           {"0", "5000", "0", "5000"},
-        {"-50", "-100", "-100", "-50"},     {"10", "010", "10", "010"},
+        {"9000", "3000", "3000", "9000"},
+        {"3000", "9000", "3000", "9000"},
+        {"10000", "9000", "9000", "10000"},
+        {"5000", "0", "5000", "0"},
+        {"5000", "00", "00", "5000"},
+        {"5000", "", "", "5000"},
+        {"", "5000", "", "5000"},
+        {"0", "5000", "0", "5000"},
+        {"-50", "-100", "-100", "-50"},
+        {"10", "010", "010", "10"},
+        {"0", "", "0", ""},
     };
     for (const auto& [altitude1, altitude2, ordered1, ordered2] : cases) {
         WaypointRecord row;
@@ -111,6 +117,31 @@ TEST(AltitudeBand, IsOrderedByNumberWhenThereIsASecondAltitude) {
         OrderAltitudes(row);
         EXPECT_EQ(row.Altitude1, FixedField<6>(ordered1)) << altitude1 << ' ' << altitude2;
         EXPECT_EQ(row.Altitude2, FixedField<6>(ordered2)) << altitude1 << ' ' << altitude2;
+    }
+}
+
+TEST(AltitudeBand, EqualAltitudesKeepTheirOrderWithEverySave) {
+    const auto saved = [](const WaypointItems& stored) {
+        WaypointRecord row;
+        row.WaypointType = "0";
+        row.Altitude2 = stored[FirstAltitudeColumn];
+        row.Altitude1 = stored[SecondAltitudeColumn];
+        OrderAltitudes(row);
+        return ItemsForSave(row);
+    };
+    for (const char* other : {"05000", "5000.", "5000"}) {
+        WaypointItems items;
+        items[FirstAltitudeColumn] = "5000";
+        items[SecondAltitudeColumn] = other;
+        EXPECT_EQ(saved(items)[FirstAltitudeColumn], "5000");
+        EXPECT_EQ(saved(items)[SecondAltitudeColumn], other);
+    }
+    for (const auto& [first, second] : {std::pair{"0x", "0y"}, {"", "0"}, {"00", "0"}}) {
+        WaypointItems items;
+        items[FirstAltitudeColumn] = first;
+        items[SecondAltitudeColumn] = second;
+        const WaypointItems once = saved(items);
+        EXPECT_EQ(saved(once), once) << first << ' ' << second;
     }
 }
 
