@@ -4,6 +4,7 @@
 
 #include "desktop/native_text.h"
 #include "desktop/theme.h"
+#include "desktop/window_system.h"
 
 namespace tarvex {
 
@@ -31,8 +32,14 @@ void TextBoxBinder::ToWidget() {
 }
 
 // The caret keeps its distance from the end where what stood behind it is still there, so that a refused
-// character leaves it where it was typed.
+// character leaves it where it was typed. A box that the user is not in shows its text from the beginning:
+// the blanks at its end may be more than it has room for.
 void TextBoxBinder::PutText(const wxString& text) {
+    if (!HoldsFocusOfWindow(widget_)) {
+        widget_.ChangeValue(text);
+        widget_.SetInsertionPoint(0);
+        return;
+    }
     const auto caret = static_cast<std::size_t>(std::max(0L, widget_.GetInsertionPoint()));
     const wxString behind = widget_.GetValue().Mid(caret);
     widget_.ChangeValue(text);
