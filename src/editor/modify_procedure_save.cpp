@@ -19,6 +19,13 @@ std::span<WaypointRecord> RowsInUse(SharedState& state) {
     return std::span(state.WaypointTable).first(static_cast<std::size_t>(state.WaypointCount));
 }
 
+// The altitudes into the order in which the file has them.
+void ExchangeBands(std::span<WaypointRecord> rows) {
+    for (WaypointRecord& row : rows) {
+        if (HasSecondAltitude(row)) ExchangeAltitudes(row);
+    }
+}
+
 // No file of Windows has one of these in its name, and one of them would lead into another folder.
 bool CanNameFile(std::string_view name) {
     return std::none_of(name.begin(), name.end(), [](char c) {
@@ -63,6 +70,8 @@ void ModifyProcedure::SaveCommand_Click() {
     try {
         if (!NameCanBeSaved() || !MayReplaceStoredFile() || !WriteProcedure()) return;
         KeepHemispheres();
+        // Not before both files are written: a save that failed can be tried again from the same rows.
+        ExchangeBands(RowsInUse(program_.state));
         program_.modifyProcedure.Unload();
     } catch (const Failure& failure) {
         SaveFailed(failure);
@@ -92,7 +101,7 @@ bool ModifyProcedure::MayReplaceStoredFile() {
 
 bool ModifyProcedure::WriteProcedure() {
     SharedState& state = program_.state;
-    const std::span<WaypointRecord> rows = RowsInUse(state);
+    const std::span<const WaypointRecord> rows = RowsInUse(state);
     std::vector<WaypointItems> lines(rows.size());
     std::transform(rows.begin(), rows.end(), lines.begin(), ItemsForSave);
     if (const auto item = FindUnstorableItem(lines)) {
@@ -102,10 +111,6 @@ bool ModifyProcedure::WriteProcedure() {
     const std::string comment = CommentOfSave(program_.platform.clock.ShortDate(), state.ProgramVersion);
     program_.platform.files.Write(state.ProcedureFolder + FilenameText.Caption(),
                                   ProcedureText(comment, lines));
-    // Not before the file is written: a save that failed can then be tried again from the same rows.
-    for (WaypointRecord& row : rows) {
-        if (HasSecondAltitude(row)) ExchangeAltitudes(row);
-    }
     return true;
 }
 

@@ -139,6 +139,7 @@ TEST_F(Saving, TypeThatIsNoNumberStopsBeforeTheFileIsOpened) {
 }
 
 TEST_F(Saving, FailuresOfTheFileGoByTheirNumber) {
+    const std::string ini = "C:\\Tarvex\\Tarvex.INI";
     services.files.FailWrite(Path("KXYZ-DEMO1.wsd"), FileNotFound);
     ModifyProcedure& editor = CreateNamed("KXYZ", "DEMO1");
     Add({.fix = "B",
@@ -147,14 +148,19 @@ TEST_F(Saving, FailuresOfTheFileGoByTheirNumber) {
          .altitude = "3000",
          .upperAltitude = "9000",
          .restriction = &ModifyProcedure::AtAboveAtBelowOption});
-    EXPECT_EQ(Save("KXYZ-DEMO1.wsd"), "");
-    EXPECT_TRUE(program->findFS2000Form.IsLoaded());
-    EXPECT_TRUE(editor.Visible());
-    ExpectSilence();
-    // The rows are as they were, and a save that can write still writes the band lower first.
-    EXPECT_EQ(Row(1).Altitude1, FixedField<6>("3000"));
-    user->Types(editor.BasicNameText, "DEMO2");
-    EXPECT_EQ(Save("KXYZ-DEMO2.wsd"), Saved(one + "W,B,,0,33.,-117.,0,0,3000,9000,3,\r\n"));
+    for (const char* name : {"DEMO1", "DEMO2"}) {  // the second time it is the settings
+        user->Types(editor.BasicNameText, name);
+        EXPECT_EQ(Save("none"), "");
+        EXPECT_TRUE(program->findFS2000Form.IsLoaded());
+        EXPECT_TRUE(editor.Visible());
+        ExpectSilence();
+        // The rows are as they were, and a save that can write still writes the band lower first.
+        EXPECT_EQ(Row(1).Altitude1, FixedField<6>("3000"));
+        services.files.FailWrite(ini, FileNotFound);
+    }
+    services.files.FailWrite(ini, 0);
+    user->Types(editor.BasicNameText, "DEMO3");
+    EXPECT_EQ(Save("KXYZ-DEMO3.wsd"), Saved(one + "W,B,,0,33.,-117.,0,0,3000,9000,3,\r\n"));
 }
 
 TEST_F(Saving, FullDiskStopsTheProgram) {

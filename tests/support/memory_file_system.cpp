@@ -59,7 +59,7 @@ const std::string& MemoryFileSystem::Content(const std::string& path) const {
 
 FileText MemoryFileSystem::Read(const std::string& path) {
     RequireFolder(FolderOf(path));
-    if (const auto fault = failRead_.find(Key(path)); fault != failRead_.end()) {
+    if (const auto fault = failRead_.find(Key(path)); fault != failRead_.end() && fault->second != 0) {
         throw Failure(fault->second, path + ": cannot be read");
     }
     if (folders_.contains(Key(path))) throw Failure(AccessError, path + ": is a folder");
@@ -70,11 +70,11 @@ FileText MemoryFileSystem::Read(const std::string& path) {
 
 void MemoryFileSystem::Write(const std::string& path, std::string_view text) {
     RequireFolder(FolderOf(path));
-    if (const auto fault = failWrite_.find(Key(path)); fault != failWrite_.end()) {
+    if (const auto fault = failWrite_.find(Key(path)); fault != failWrite_.end() && fault->second != 0) {
         throw Failure(fault->second, path + ": cannot be written");
     }
     if (folders_.contains(Key(path))) throw Failure(AccessError, path + ": is a folder");
-    written_.push_back(path);
+    if (std::find(written_.begin(), written_.end(), path) == written_.end()) written_.push_back(path);
     auto [entry, made] = files_.try_emplace(Key(path), Entry{path, {}});
     entry->second.text = text;
 }

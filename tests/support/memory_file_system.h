@@ -21,14 +21,14 @@ class MemoryFileSystem : public FileSystem {
     // What a file holds. A missing one fails the test with an exception.
     const std::string& Content(const std::string& path) const;
 
-    // From now on reading, or writing, this path fails with the number.
+    // From now on reading, or writing, this path fails with the number; 0: no more.
     void FailRead(const std::string& path, int number) { failRead_[Key(path)] = number; }
     void FailWrite(const std::string& path, int number) { failWrite_[Key(path)] = number; }
 
     void SetDrives(std::vector<std::string> drives) { drives_ = std::move(drives); }
     void SetCurrentFolder(std::string folder) { currentFolder_ = std::move(folder); }
 
-    // Paths written so far, in order.
+    // Paths written so far, each once, in order.
     const std::vector<std::string>& Written() const { return written_; }
 
     FileText Read(const std::string& path) override;
