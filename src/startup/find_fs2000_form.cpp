@@ -18,7 +18,8 @@ FindFS2000Form::FindFS2000Form(Program& program)
     : Form(program.host, "FindFS2000Form", ""),
       Drive1(*this, "Drive1", 0, program.platform.files),
       Dir1(*this, "Dir1", 1, program.platform.files),
-      program_(program) {
+      program_(program),
+      folderBefore_(program.state.SimulatorPath) {
     for (Control* control : Controls()) {
         if (control != &Frame1) control->PutInto(Frame1);
     }
@@ -40,7 +41,13 @@ void FindFS2000Form::Form_Load() {
 }
 
 void FindFS2000Form::Form_Unload() {
-    if (!done_ && program_.host.Visible().size() <= 1) program_.initialLoad.Unload();
+    if (done_) return;
+    program_.state.SimulatorPath = folderBefore_;
+    if (program_.host.Visible().size() <= 1) {
+        program_.initialLoad.Unload();
+    } else if (!program_.modifyProcedure.IsLoaded()) {
+        program_.initialLoad.Show();
+    }
 }
 
 void FindFS2000Form::Drive1_Change() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "toolkit/drive_lists.h"
 #include "toolkit/form.h"
 #include "toolkit/simple_controls.h"
@@ -23,7 +25,8 @@ class FindFS2000Form : public Form {
     Button FindDoneCommand{*this, "FindDoneCommand", "Done", 2};
 
     void Form_Load() override;
-    // The way out without Done. Ends the run when it leaves nothing on the screen.
+    // The way out without Done: the folder is again what it was. The menu comes back, unless the editor keeps
+    // it away; the run ends when nothing else is on the screen.
     void Form_Unload() override;
     void Drive1_Change();
     void Dir1_Change();
@@ -37,6 +40,7 @@ class FindFS2000Form : public Form {
     void LoadTables();
 
     Program& program_;
+    const std::string folderBefore_;
     bool done_ = false;
 };
 

@@ -179,8 +179,19 @@ TEST_F(FolderScreenTest, ClosedBesideTheEditorLeavesTheEditor) {
     program.door.Press(program.initialLoad.Get()->CreateDP);
     program.host.RunEvent([&] { program.AskForSimulatorFolder(); });
     EXPECT_EQ(Forms(), "ModifyProcedureFindFS2000Form");
+    Click("C:\\Games");
     program.door.CloseWindow(program.findFS2000Form);
     EXPECT_EQ(Forms(), "ModifyProcedure");
+    EXPECT_EQ(program.state.SimulatorPath, "C:\\FS2000");
+}
+
+TEST_F(FolderScreenTest, ClosedBesideThePickerBringsTheMenuBack) {
+    Register("C:\\FS2000");
+    program.Start();
+    program.door.Press(program.initialLoad.Get()->ModifyDP);
+    program.host.RunEvent([&] { program.AskForSimulatorFolder(); });
+    program.door.CloseWindow(program.findFS2000Form);
+    EXPECT_EQ(Forms(), "PickFileInitialLoad");
 }
 
 }  // namespace
