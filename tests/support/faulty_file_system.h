@@ -22,6 +22,8 @@ class FaultyFileSystem : public FileSystem {
 
     // In place of an error number: a read gives the first half of the file and no error.
     static constexpr int ShortRead = -1;
+    // In place of the number of an operation: none of them fails.
+    static constexpr std::size_t Never = static_cast<std::size_t>(-1);
 
     explicit FaultyFileSystem(FileSystem& files) : files_(files) {}
 
@@ -32,8 +34,13 @@ class FaultyFileSystem : public FileSystem {
         faultAt_ = n;
         number_ = number;
     }
+    // Nothing fails from now on.
+    void NoFault() { FailAt(Never, 0); }
     // The operations since FailAt, or since the beginning.
     const std::vector<Done>& Operations() const { return done_; }
+
+    // The one of them that failed; null when none did.
+    const Done* Failed() const { return faultAt_ < done_.size() ? &done_[faultAt_] : nullptr; }
 
     FileText Read(const std::string& path) override {
         if (!Faulty(Operation::Read, path)) return files_.Read(path);
@@ -67,8 +74,6 @@ class FaultyFileSystem : public FileSystem {
     }
 
   private:
-    static constexpr std::size_t Never = static_cast<std::size_t>(-1);
-
     bool Faulty(Operation operation, const std::string& path) {
         done_.push_back({operation, path, done_.size()});
         return done_.size() - 1 == faultAt_;

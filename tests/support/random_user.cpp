@@ -1,7 +1,6 @@
 #include "support/random_user.h"
 
 #include <algorithm>
-#include <array>
 
 namespace tarvex::testing {
 
@@ -14,22 +13,23 @@ constexpr const char* Names[] = {"a",         "alpha", "DMO", "fix 1", " x",
                                  "\xE9t\xE9", "B-1",   "X.Y", "MANXX", "KX"};
 constexpr std::string_view Rubbish = "  --..0123456789ABCabc,\"'eED+&\xE9\\/*?:%;\t";
 
-// What leads away from a screen, and what ends the program.
-constexpr std::string_view WaysOut[] = {"SaveCommand", "OopsCommand", "GoBackCommand", "Command1"};
-constexpr std::string_view TheEnd = "ExitCommand";
+// What leads away from a screen.
+constexpr std::string_view WaysOut[] = {"SaveCommand", "OopsCommand", "ExitCommand"};
 
 }  // namespace
 
 MessageAnswer RandomMessageBox::Show(const Message& message) {
     ++shown_;
+    recent_.push_back(message);
     if (message.buttons == MessageButtons::Ok) return MessageAnswer::Ok;
     return chance_.Percent(50) ? MessageAnswer::Yes : MessageAnswer::No;
 }
 
 RandomUser::Act RandomUser::Next() {
-    if (plan_.empty() && chance_.Percent(15)) Plan();
+    if (plan_.empty() && chance_.Percent(15)) plan_ = Plan();
     if (!plan_.empty() && chance_.Percent(90)) return FollowPlan();
 
+    if (chance_.Percent(10)) return MendBox();
     Form* form = ChooseForm();
     if (form == nullptr) return {"", "", "has nothing to do"};
     const std::size_t kind = chance_.Below(100);
@@ -47,6 +47,15 @@ RandomUser::Act RandomUser::Next() {
     return control == nullptr ? Act{form->Name(), "", "looks"} : ActOn(*control);
 }
 
+// A box that complains lets nobody go on but through it.
+RandomUser::Act RandomUser::MendBox() {
+    auto* box = dynamic_cast<TextBox*>(program_.host.GetFocus().Current());
+    if (box == nullptr) return {"", "", "has nothing to mend"};
+    Act act{box->Owner().Name(), box->Name(), "mends"};
+    door_.Type(*box, box->Owner().Name() == "LatLongForm" ? "9" : "");
+    return act;
+}
+
 Form* RandomUser::ChooseForm() {
     const auto& visible = program_.host.Visible();
     if (visible.empty()) return nullptr;
@@ -58,10 +67,10 @@ Control* RandomUser::ChooseControl(Form& form) {
     const bool stays = focused != nullptr && &focused->Owner() == &form && chance_.Percent(25);
     Control* control = stays ? focused : nullptr;
     while (control == nullptr || !control->TakesFocus()) control = chance_.Of(form.Controls());
-    if (control->Name() == TheEnd && &form == program_.initialLoad.Get()) return nullptr;
     const bool leads =
-        std::find(std::begin(WaysOut), std::end(WaysOut), control->Name()) != std::end(WaysOut);
-    return leads && chance_.Percent(85) ? nullptr : control;
+        std::find(std::begin(WaysOut), std::end(WaysOut), control->Name()) != std::end(WaysOut) ||
+        control == form.WayOut();
+    return leads && chance_.Percent(80) ? nullptr : control;
 }
 
 std::string RandomUser::ChooseText(const TextBox& box) {
@@ -113,11 +122,25 @@ RandomUser::Act RandomUser::ActOn(Control& control) {
         const int line = lineOf(files->Lines().size());
         act.what = "picks file " + std::to_string(line);
         door_.PickFile(*files, line);
+    } else if (auto* drives = dynamic_cast<DriveList*>(&control); drives != nullptr) {
+        act.what = "picks drive " + chance_.Of(drives->Drives());
+        door_.PickDrive(*drives, std::string_view(act.what).substr(12));
+    } else if (auto* folders = dynamic_cast<FolderList*>(&control); folders != nullptr) {
+        act.what = Choose(*folders);
     } else {
         act.what = "moves to";
         door_.MoveFocus(control);
     }
     return act;
+}
+
+std::string RandomUser::Choose(FolderList& list) {
+    const int rows = list.ListCount() - list.FirstIndex();
+    const int row = list.FirstIndex() + static_cast<int>(chance_.Below(static_cast<std::size_t>(rows)));
+    const std::string folder = list.List(row);
+    const bool opens = chance_.Percent(50);
+    opens ? door_.OpenFolder(list, row) : door_.PickFolder(list, row);
+    return (opens ? "opens " : "picks ") + folder;
 }
 
 RandomUser::Act RandomUser::PressKey(Form& form) {
@@ -138,42 +161,20 @@ RandomUser::Act RandomUser::PressKey(Form& form) {
 }
 
 RandomUser::Act RandomUser::CloseWindow() {
-    const std::array<FormSlotBase*, 6> slots{&program_.pickFile,           &program_.modifyProcedure,
-                                             &program_.findWaypointForm,   &program_.addARC,
-                                             &program_.createWaypointForm, &program_.latLongForm};
-    const std::size_t slot = chance_.Below(slots.size());
-    door_.CloseWindow(*slots[slot]);
-    return {"", "window " + std::to_string(slot), "closes"};
-}
-
-void RandomUser::Plan() {
-    const std::size_t kind = chance_.Below(100);
-    if (kind < 3) {
-        plan_ = {{"AptNameText", chance_.Percent(50) ? "kxyz" : "KABC"},
-                 {"BasicNameText", chance_.Percent(50) ? "one" : "TWO"},
-                 {"TransitionText", chance_.Percent(50) ? "" : "thr"},
-                 {"SaveCommand", ""}};
-    } else if (kind < 30) {
-        constexpr const char* Deeds[] = {"ModifyWaypointCommand", "DeleteWaypointCommand", "MoveUp",
-                                         "MoveDown"};
-        plan_ = {{"WaypointList", ""}, {"Alt1Text", chance_.Of(Numbers)}, {chance_.Of(Deeds), ""}};
-    } else if (kind < 45) {
-        plan_ = {{"AddArcCommand", ""},    {"ArcStartText", "10"},   {"ArcEndText", "60"},
-                 {"ArcRadiusText", "12"},  {"LatLongCommand", ""},   {"DLatCenterText", "33"},
-                 {"MLatCenterText", "30"}, {"DLongCenterText", "0"}, {"DoneCommand", ""},
-                 {"RightOption", ""},      {"TransferCommand", ""}};
-    } else {
-        const bool fix = chance_.Percent(60);
-        plan_ = {{"ClearDataCommand", ""},
-                 {fix ? "FixNameText" : "NAVIDText", chance_.Of(Names)},
-                 {"FreqText", "113.60"},
-                 {"DDMLatText", std::to_string(chance_.Below(90))},
-                 {"DMMLatText", std::to_string(chance_.Below(60))},
-                 {"DDMLongText", std::to_string(chance_.Below(180))},
-                 {"DMMLongText", "59.999999"},
-                 {"Alt1Text", chance_.Percent(50) ? "5000" : ""},
-                 {"AddWaypointCommand", ""}};
-    }
+    const std::pair<Form*, FormSlotBase*> windows[] = {
+        {program_.initialLoad.Get(), &program_.initialLoad},
+        {program_.findFS2000Form.Get(), &program_.findFS2000Form},
+        {program_.pickFile.Get(), &program_.pickFile},
+        {program_.modifyProcedure.Get(), &program_.modifyProcedure},
+        {program_.findWaypointForm.Get(), &program_.findWaypointForm},
+        {program_.addARC.Get(), &program_.addARC},
+        {program_.createWaypointForm.Get(), &program_.createWaypointForm},
+        {program_.latLongForm.Get(), &program_.latLongForm}};
+    const auto& [form, slot] = chance_.Of(windows);
+    if (form == nullptr || !form->Visible()) return {"", "", "sees no such window"};
+    Act act{form->Name(), "window", "closes"};
+    door_.CloseWindow(*slot);
+    return act;
 }
 
 RandomUser::Act RandomUser::FollowPlan() {
@@ -181,12 +182,14 @@ RandomUser::Act RandomUser::FollowPlan() {
     plan_.pop_front();
     const std::vector<Form*> visible = program_.host.Visible();
     for (auto form = visible.rbegin(); form != visible.rend(); ++form) {
+        if (!step.form.empty() && step.form != (*form)->Name()) continue;
         Control* control = (*form)->Find(step.control);
         if (control == nullptr || !control->TakesFocus()) continue;
         auto* box = dynamic_cast<TextBox*>(control);
         if (box == nullptr) return ActOn(*control);
+        Act act{(*form)->Name(), step.control, "types by plan " + step.text};
         door_.Type(*box, step.text);
-        return {(*form)->Name(), step.control, "types by plan " + step.text};
+        return act;
     }
     return {"", step.control, "misses"};
 }

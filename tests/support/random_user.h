@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "startup/program.h"
 
@@ -34,16 +35,20 @@ class RandomMessageBox : public MessageBox {
 
     MessageAnswer Show(const Message& message) override;
     int Shown() const { return shown_; }
+    // The messages shown since they were last forgotten.
+    const std::vector<Message>& Recent() const { return recent_; }
+    void Forget() { recent_.clear(); }
 
   private:
     Chance& chance_;
     int shown_ = 0;
+    std::vector<Message> recent_;
 };
 
 // A user who does anything that a user can do with the screens that are there: types all kinds of text,
 // presses, picks, selects, uses keys, changes and closes windows. Now and then, so that something comes of
-// it, goes by a plan: a whole waypoint, a name and a save, work on a row, an ARC. Never ends the program by
-// intent.
+// it, goes by a plan: a whole waypoint, a name and a save, work on a row, a search, an ARC, a derived
+// waypoint.
 class RandomUser {
   public:
     // Presses rarely what only leads away.
@@ -58,24 +63,35 @@ class RandomUser {
     Act Next();
 
   private:
-    Form* ChooseForm();
-    Control* ChooseControl(Form& form);
-    std::string ChooseText(const TextBox& box);
-    Act ActOn(Control& control);
-    Act PressKey(Form& form);
-    Act CloseWindow();
-    void Plan();
-    Act FollowPlan();
-
     struct Step {
         std::string control;
         std::string text;
+        std::string form;  // where the control stands; empty: in front of all others that have it
     };
+    using Steps = std::deque<Step>;
+
+    Form* ChooseForm();
+    Control* ChooseControl(Form& form);
+    std::string ChooseText(const TextBox& box);
+    Act MendBox();
+    Act ActOn(Control& control);
+    std::string Choose(FolderList& list);
+    Act PressKey(Form& form);
+    Act CloseWindow();
+    Act FollowPlan();
+
+    Steps Plan();
+    Steps PlanSave();
+    Steps PlanWaypoint();
+    Steps PlanWorkOnRow();
+    Steps PlanSearch();
+    Steps PlanArc();
+    Steps PlanDerived();
 
     Program& program_;
     UserDoor& door_;
     Chance& chance_;
-    std::deque<Step> plan_;
+    Steps plan_;
 };
 
 }  // namespace tarvex::testing
