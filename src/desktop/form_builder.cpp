@@ -145,9 +145,9 @@ wxSizer* FormBuilder::Put(Frame& frame, wxOrientation orientation) {
 void FormBuilder::Put(const Axis& axis, wxFlexGridSizer& grid) {
     const auto middle = wxSizerFlags().CentreVertical();
     // The caption names the two boxes and the axis; each name has its own place.
-    std::vector<wxStaticText*> labels;
-    for (int part = 0; part < 3; ++part) {
-        labels.push_back(new wxStaticText(ParentOf(axis.label), wxID_ANY, wxString()));
+    std::vector<wxStaticText*> labels(3);
+    for (wxStaticText*& label : labels) {
+        label = new wxStaticText(ParentOf(axis.label), wxID_ANY, wxString());
     }
     window_.Bind<LabelBinder>(axis.label, labels);
     const wxString spoken(axis.spoken);

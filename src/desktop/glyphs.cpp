@@ -95,7 +95,9 @@ void DrawGlyph(wxGraphicsContext& canvas, Glyph glyph, double x, double y, doubl
 }
 
 wxBitmapBundle GlyphImage(Glyph glyph, int size) {
-    return wxBitmapBundle::FromImpl(new GlyphBundle(glyph, size));
+    // The bundle counts references to it.
+    auto* image = new GlyphBundle(glyph, size);
+    return wxBitmapBundle::FromImpl(image);  // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks)
 }
 
 }  // namespace tarvex

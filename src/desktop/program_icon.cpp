@@ -21,7 +21,9 @@ wxIconBundle ProgramIcons() {
     for (const auto& png : icon::Sizes) {
         wxMemoryInputStream bytes(png.bytes, png.size);
         wxIcon icon;
-        icon.CopyFromBitmap(wxBitmap(wxImage(bytes, wxBITMAP_TYPE_PNG)));
+        wxImage image;
+        image.LoadFile(bytes, wxBITMAP_TYPE_PNG);
+        icon.CopyFromBitmap(wxBitmap(image));
         icons.AddIcon(icon);
     }
     return icons;
