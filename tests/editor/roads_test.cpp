@@ -60,6 +60,20 @@ TEST_F(Roads, OneFieldChangedLeavesTheOtherRowsByteForByte) {
     ExpectSilence();
 }
 
+TEST_F(Roads, LastRowOfAFullProcedureBecomesTheFirst) {
+    const std::string last = "W,LAST,,0,-33.5,118.25,0,250,0,5000,1,\r\n";
+    std::string others;
+    for (int row = 0; row < MaxWaypoints - 1; ++row) {
+        others += "W,FIX" + std::to_string(row) + ",,0,033.50,-.250,0,0,3000,9000,3,\r\n";
+    }
+    ModifyProcedure& editor = OpenDP("KXYZ-DEMO1.wsd", others + last);
+    user->PicksLine(editor.WaypointList, MaxWaypoints - 1);
+    for (int row = 1; row < MaxWaypoints; ++row) user->Presses(editor.MoveUp);
+    EXPECT_EQ(editor.WaypointList.ListIndex(), 0);
+    EXPECT_EQ(Save("KXYZ-DEMO1.wsd"), Saved(last + others));
+    ExpectSilence();
+}
+
 TEST_F(Roads, HemisphereFlipped) {
     ModifyProcedure& editor = OpenDP("KXYZ-DEMO1.wsd", "W,ALPHA,,0,33.5,-118.25,0,0,0,0,0,\r\n");
     user->PicksLine(editor.WaypointList, 0);

@@ -23,6 +23,7 @@ constexpr const char* Data = "C:\\FS2000\\GIOSTAM\\navdata\\";
 constexpr const char* Star = "C:\\FS2000\\Giostam\\navdata\\Stars\\KXYZ-DEMO1.wst";
 constexpr const char* Approach = "C:\\FS2000\\Giostam\\navdata\\Approaches\\KXYZ-27L.wap";
 
+constexpr const char* ShortSettings = "C:\\FS2000\r\nN\r\nW\r\n";
 constexpr const char* Sound =
     "; made by hand 2.35\r\n\r\nW,ALPHA,,0,33.5,-118.25,0,250,0,5000,1,\r\n\r\nEnd of Terminal Procedure\r\n";
 constexpr const char* Repairable =
@@ -54,6 +55,13 @@ struct World {
         services.registry.Put(0x80000002, "Software\\Microsoft\\Microsoft Games\\Flight Simulator\\7.0",
                               "path", std::string("C:\\FS2000\0", 10));
     }
+    void AskForFolder() {
+        services.files.Remove(Ini);
+        services.files.PutFolder("D:\\Games\\Old");
+        services.files.SetDrives({"C:\\", "D:\\"});
+    }
+    FindFS2000Form* Screen() { return program->findFS2000Form.Get(); }
+    std::string Settings() { return services.files.Has(Ini) ? services.files.Content(Ini) : ""; }
     ScriptedUser User() { return ScriptedUser(*program); }
     void Pick(Button InitialLoad::*action, const char* name) {
         User().Presses(program->initialLoad.Get()->*action);
@@ -126,6 +134,15 @@ std::string PickEnd(const FaultyFileSystem::Done& done, int number) {
     return "[Procedure not opened.] InitialLoad ";
 }
 
+std::string FolderEnd(const FaultyFileSystem::Done& done, int number) {
+    const bool readAnyway = number == FaultyFileSystem::ShortRead;
+    if (done.index == 0 && !readAnyway) return StartEnd(done, number, "FindFS2000Form ");
+    // The screen's lists and its hint come up whatever fails; a walk that fails says so.
+    const bool walk = done.operation == Operation::FolderOfDrive ||
+                      (done.operation == Operation::Folders && done.path != "C:\\");
+    return (walk && !readAnyway ? "[Tarvex 2.35] " : "") + std::string("FindFS2000Form ");
+}
+
 const Road Roads[] = {
     {"start", [](World&) {}, [](World& world) { world.Start(); },
      [](const auto& done, int number) {
@@ -143,6 +160,39 @@ const Road Roads[] = {
              return done.index == 2 ? Fatal : std::string(Menu);
          }
          return StartEnd(done, number, done.index == 0 ? Menu : Fatal.c_str());
+     }},
+    {"start with short settings", [](World& world) { world.services.files.Put(Ini, ShortSettings); },
+     [](World& world) { world.Start(); },
+     [](const auto& done, int number) {
+         if (done.operation == Operation::Write && number != FaultyFileSystem::ShortRead) {
+             return "[Tarvex 2.35] " + std::string(Menu);
+         }
+         // Too few lines for the second read too; the read back of the mended file has no second recovery.
+         if (done.path == Ini && number == FaultyFileSystem::ShortRead) {
+             const char* ends[] = {Menu, "FindFS2000Form ", Menu, Fatal.c_str()};
+             return std::string(ends[done.index]);
+         }
+         return StartEnd(done, number, done.index == 0 ? "FindFS2000Form " : Fatal.c_str());
+     }},
+    {"folder screen", [](World& world) { world.AskForFolder(); },
+     [](World& world) {
+         world.Start();
+         if (world.Screen() == nullptr) return;
+         world.program->door.PickDrive(world.Screen()->Drive1, "D:\\");
+         world.program->door.OpenFolder(world.Screen()->Dir1, 0);
+     },
+     FolderEnd},
+    {"folder chosen",
+     [](World& world) {
+         world.AskForFolder();
+         world.Start();
+         world.program->door.PickFolder(world.Screen()->Dir1, 0);
+     },
+     [](World& world) { world.program->door.Press(world.Screen()->FindDoneCommand); },
+     [](const auto& done, int number) -> std::string {
+         if (number == FaultyFileSystem::ShortRead) return Menu;
+         return std::string("[Tarvex 2.35] ") +
+                (done.operation == Operation::Write ? "FindFS2000Form " : Menu);
      }},
     {"open", [](World& world) { world.Start(); },
      [](World& world) { world.Pick(&InitialLoad::ModifySTAR, "KXYZ-DEMO1.wst"); }, PickEnd},
@@ -182,6 +232,7 @@ TEST(FaultTest, EveryOperationOfEveryRoadMayFail) {
         sound.files.FailAt(static_cast<std::size_t>(-1), 0);
         road.walk(sound);
         const auto operations = sound.files.Operations();
+        const std::string settingsAfter = sound.Settings();
         ASSERT_FALSE(operations.empty()) << road.name;
 
         for (std::size_t n = 0; n < operations.size(); ++n) {
@@ -190,6 +241,7 @@ TEST(FaultTest, EveryOperationOfEveryRoadMayFail) {
                              operations[n].path + ", error " + std::to_string(number));
                 World world;
                 road.prepare(world);
+                const std::string settingsBefore = world.Settings();
                 const std::string starBefore = world.services.files.Content(Star);
                 const std::string approachBefore = world.services.files.Content(Approach);
                 world.services.messages.Take();
@@ -201,9 +253,13 @@ TEST(FaultTest, EveryOperationOfEveryRoadMayFail) {
                 if (stopped) {
                     EXPECT_NE(stopped->reason, "");
                 }
+                const auto& failed = operations[n];
+                if (failed.operation != Operation::Write || failed.path != Ini) {
+                    const std::string settings = world.Settings();
+                    EXPECT_TRUE(settings == settingsBefore || settings == settingsAfter) << settings;
+                }
                 // A stored procedure is as it was unless it was open for writing; opening one never harms it.
                 const bool opening = std::string_view(road.name).starts_with("open");
-                const auto& failed = operations[n];
                 if (number == FaultyFileSystem::ShortRead) continue;
                 if (opening || failed.operation != Operation::Write || failed.path != Star) {
                     EXPECT_EQ(Body(world.services.files.Content(Star)), Body(starBefore));
