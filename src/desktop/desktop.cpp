@@ -61,6 +61,7 @@ void Desktop::FormShown(Form& form) {
     if (window == nullptr) window = &MakeWindow(form);
     window->Flush();
     const Mute mute(*this);
+    if (!window->IsShown()) guard_.CameUp(*window);
     BringToFront(*window);
     window->Show();
 }

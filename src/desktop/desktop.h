@@ -4,6 +4,7 @@
 #include <memory>
 #include <vector>
 
+#include "desktop/double_click_guard.h"
 #include "desktop/native_form.h"
 #include "startup/program.h"
 #include "toolkit/act_queue.h"
@@ -61,6 +62,7 @@ class Desktop final : public FormObserver {
     void End();
 
     Program& program_;
+    DoubleClickGuard guard_;
     ActQueue acts_;
     std::map<const Form*, NativeForm*> windows_;
     std::vector<NativeForm*> detached_;
