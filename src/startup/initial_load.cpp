@@ -1,6 +1,7 @@
 #include "startup/initial_load.h"
 
 #include "geometry/text_rules.h"
+#include "procedure/procedure_mode.h"
 #include "startup/program.h"
 #include "startup/simulator_folder.h"
 #include "startup/startup_messages.h"
@@ -28,6 +29,11 @@ constexpr MenuAction CreateSTARAction{.mode = "T", .folder = Arrivals};
 constexpr MenuAction ModifySTARAction{.mode = "S", .folder = Arrivals};
 constexpr MenuAction CreateIAPAction{.mode = "J", .folder = Approaches};
 constexpr MenuAction ModifyIAPAction{.mode = "I", .folder = Approaches};
+
+std::string_view FolderOf(std::string_view mode) {
+    if (IsDeparture(mode)) return Departures;
+    return IsApproach(mode) ? Approaches : Arrivals;
+}
 
 }  // namespace
 
@@ -148,6 +154,7 @@ void InitialLoad::ExitCommand_Click() {
 }
 
 void InitialLoad::Create(const MenuAction& action) {
+    if (ReturnToEditor()) return;
     SetProcedure(action);
     program_.modifyProcedure.Show();
     ModifyProcedure* editor = program_.modifyProcedure.Get();
@@ -158,6 +165,7 @@ void InitialLoad::Create(const MenuAction& action) {
 }
 
 void InitialLoad::Modify(const MenuAction& action) {
+    if (ReturnToEditor()) return;
     try {
         program_.pickFile.Unload();
         SetProcedure(action);
@@ -165,6 +173,15 @@ void InitialLoad::Modify(const MenuAction& action) {
     } catch (const Failure& failure) {
         program_.RecoverProcedureFolder(failure);
     }
+}
+
+bool InitialLoad::ReturnToEditor() {
+    if (!program_.modifyProcedure.IsLoaded()) return false;
+    SharedState& state = program_.state;
+    state.ProcedureFolder = state.SimulatorPath;
+    state.ProcedureFolder += FolderOf(state.ProcedureMode);
+    program_.modifyProcedure.Show();
+    return true;
 }
 
 void InitialLoad::SetProcedure(const MenuAction& action) {

@@ -46,6 +46,9 @@ class InitialLoad : public Form {
     void RewriteSettings(const Settings& settings);
     void Take(const Settings& settings);
 
+    // The menu stands beside the editor when the user chose the folder anew meanwhile. Any action then leads
+    // back to the procedure that is open, which keeps its kind and is saved in the new folder.
+    bool ReturnToEditor();
     void Create(const MenuAction& action);
     void Modify(const MenuAction& action);
     void SetProcedure(const MenuAction& action);

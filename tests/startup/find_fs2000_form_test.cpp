@@ -185,6 +185,22 @@ TEST_F(FolderScreenTest, ClosedBesideTheEditorLeavesTheEditor) {
     EXPECT_EQ(program.state.SimulatorPath, "C:\\FS2000");
 }
 
+TEST_F(FolderScreenTest, ChosenBesideTheEditorLeadsBackToItsProcedure) {
+    services.files.PutFolder("C:\\Games\\Giostam\\navdata\\Sids");
+    Register("C:\\FS2000");
+    program.Start();
+    program.door.Press(program.initialLoad.Get()->CreateDP);
+    program.host.RunEvent([&] { program.AskForSimulatorFolder(); });
+    Click("C:\\Games");
+    Done();
+    for (Button InitialLoad::*action : {&InitialLoad::ModifySTAR, &InitialLoad::CreateIAP}) {
+        program.door.Press(program.initialLoad.Get()->*action);
+        EXPECT_EQ(Forms(), "InitialLoadModifyProcedure");
+        EXPECT_EQ(program.state.ProcedureMode, "E");
+        EXPECT_EQ(program.state.ProcedureFolder, "C:\\Games\\Giostam\\navdata\\Sids\\");
+    }
+}
+
 TEST_F(FolderScreenTest, ClosedBesideThePickerBringsTheMenuBack) {
     Register("C:\\FS2000");
     program.Start();

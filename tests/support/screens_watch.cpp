@@ -114,6 +114,8 @@ void ScreensWatch::Before(const Program& program) {
             chosen_ = Chosen{caller, TableOf(*search), state.TransferLatDecimal, state.TransferLongDecimal};
         }
     }
+    mode_ = program.state.ProcedureMode;
+    editorWasOpen_ = program.modifyProcedure.IsLoaded();
     rows_ = program.state.WaypointCount;
     designerWasOpen_ = program.addARC.IsLoaded();
     centreWasOpen_ = program.latLongForm.IsLoaded();
@@ -152,6 +154,8 @@ void ScreensWatch::CheckMenu(const Program& program, const RandomUser::Act& act,
     }
     if (!program.findFS2000Form.IsLoaded()) folder_ = program.state.SimulatorPath;
     if (!editor) menuMayStand_ = false;
+    findings.Require(!editor || !editorWasOpen_ || program.state.ProcedureMode == mode_,
+                     "the open procedure changed its kind");
     const InitialLoad* menu = program.initialLoad.Get();
     findings.Require(menu != nullptr, "the menu is gone");
     if (menu == nullptr || program.findFS2000Form.IsLoaded()) return;

@@ -41,6 +41,8 @@ class ScreensWatch {
         double lon;
     };
     std::optional<Chosen> chosen_;  // what the search would carry over, to a caller that is there
+    std::string mode_;
+    bool editorWasOpen_ = false;
     std::string derivedName_;
     std::string arcLabel_;
     std::int32_t rows_ = 0;
