@@ -8,6 +8,7 @@
 #include <wx/tokenzr.h>
 
 #include "desktop/native_text.h"
+#include "desktop/program_icon.h"
 #include "desktop/window_system.h"
 
 namespace tarvex {
@@ -31,6 +32,7 @@ MessageDialog::MessageDialog(wxWindow* parent, const Message& message)
     : wxDialog(parent, wxID_ANY, Shown(message.title), wxDefaultPosition, wxDefaultSize,
                wxDEFAULT_DIALOG_STYLE) {
     MarkAsAlert(*this);
+    SetIcons(ProgramIcons());
     const int gap = (GetCharHeight() + 1) / 2;
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     if (message.icon == MessageIcon::Critical) {
