@@ -164,7 +164,7 @@ void EditorWatch::CheckSaved(const Program& program, Findings& findings) {
         if (&done == files_.Failed()) {
             // What a failed write leaves is no procedure to go on with.
             stored_.Remove(done.path);
-        } else if (wasOpen_) {
+        } else if (wasOpen_ && stored_.Has(done.path)) {  // there is no folder for it, else
             CheckFile(done.path, findings);
         }
     }
