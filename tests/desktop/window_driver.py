@@ -30,7 +30,7 @@ def until(condition, what, patience=PATIENCE):
         if value:
             return value
         if time.monotonic() > end:
-            raise AssertionError(f"waited {patience:.0f} s in vain for {what}")
+            raise AssertionError(f"waited {patience:.0f} s in vain for {what() if callable(what) else what}")
         time.sleep(0.02)
 
 
@@ -165,13 +165,7 @@ class Program:
                     return Window(self, window)
             return None
 
-        return until(look, f'the window "{caption}"; there are {self.captions_now()}')
-
-    def captions_now(self):
-        try:
-            return self.captions()
-        except GLib.Error:
-            return []
+        return until(look, lambda: f'the window "{caption}"; there are {self.captions()}')
 
     def picture(self, name):
         """Pictures the whole screen for a person to look at, if TARVEX_PICTURES names a folder for it."""
