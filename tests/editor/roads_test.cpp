@@ -9,27 +9,18 @@ TEST_F(Roads, NewProcedureByHand) {
     ModifyProcedure& editor = CreateDP();
     Name("kxyz", "demo1");
     Add({.fix = "alpha",
-         .latDegrees = "33",
-         .latMinutes = "30",
-         .longDegrees = "118",
-         .longMinutes = "15",
+         .lat = "33 30",
+         .lon = "118 15",
          .altitude = "5000",
          .airspeed = "250",
-         .restriction = &ModifyProcedure::AtAboveOption});
-    Add({.navaid = "dmo",
-         .frequency = "113.60",
-         .latDegrees = "33",
-         .latMinutes = "56",
-         .longDegrees = "118",
-         .longMinutes = "24"});
+         .restriction = "At or Above"});
+    Add({.navaid = "dmo", .frequency = "113.60", .lat = "33 56", .lon = "118 24"});
     Add({.fix = "bravo",
-         .latDegrees = "34",
-         .latMinutes = "0",
-         .longDegrees = "117",
-         .longMinutes = "45",
+         .lat = "34 0",
+         .lon = "117 45",
          .altitude = "3000",
          .upperAltitude = "9000",
-         .restriction = &ModifyProcedure::AtAboveAtBelowOption});
+         .restriction = Band});
     EXPECT_EQ(Lines(), (std::vector<std::string>{"ALPHA", "DMO", "BRAVO"}));
     EXPECT_TRUE(program->door.Key(editor, ShortcutKey::CtrlS));
     EXPECT_EQ(services.files.Content(Path("KXYZ-DEMO1.wsd")),
@@ -45,18 +36,13 @@ TEST_F(Roads, NewProcedureByHand) {
 }
 
 TEST_F(Roads, OneFieldChangedLeavesTheOtherRowsByteForByte) {
-    ModifyProcedure& editor = OpenDP("KXYZ-DEMO1.wsd",
-                                     "W,FIRST,,0,033.50,-.250,0,250,0,5000,1,\r\n"
-                                     "W,RW27L,,15,-34.,117.,0,0,0,96,0,\r\n"
-                                     "W,DMO,,0,1,-1.1234567,113.60,0,3000,9000,3,\r\n");
-    user->PicksLine(editor.WaypointList, 0);
-    user->PicksLine(editor.WaypointList, 2);
-    user->PicksLine(editor.WaypointList, 1);
+    const std::string first = "W,FIRST,,0,033.50,-.250,0,250,0,5000,1,\r\nW,RW27L,,15,-34.,117.,0,0,0,";
+    const std::string last = ",0,\r\nW,DMO,,0,1,-1.1234567,113.60,0,3000,9000,3,\r\n";
+    ModifyProcedure& editor = OpenDP("KXYZ-DEMO1.wsd", first + "96" + last);
+    for (const int line : {0, 2, 1}) user->PicksLine(editor.WaypointList, line);
     user->Types(editor.Alt1Text, "120");
     user->Presses(editor.ModifyWaypointCommand);
-    EXPECT_EQ(Save("KXYZ-DEMO1.wsd"), Saved("W,FIRST,,0,033.50,-.250,0,250,0,5000,1,\r\n"
-                                            "W,RW27L,,15,-34.,117.,0,0,0,120,0,\r\n"
-                                            "W,DMO,,0,1,-1.1234567,113.60,0,3000,9000,3,\r\n"));
+    EXPECT_EQ(Save("KXYZ-DEMO1.wsd"), Saved(first + "120" + last));
     ExpectSilence();
 }
 
@@ -91,7 +77,7 @@ TEST_F(Roads, UnderOneDegreeInAllQuarters) {
         for (OptionButton* lon : {&editor.ELongOption, &editor.WLongOption}) {
             user->Picks(*lat);
             user->Picks(*lon);
-            Add({.fix = "Q", .latDegrees = "0", .latMinutes = "30", .longDegrees = "0", .longMinutes = "15"});
+            Add({.fix = "Q", .lat = "0 30", .lon = "0 15"});
         }
     }
     const std::string quarters =
@@ -108,31 +94,28 @@ TEST_F(Roads, UnderOneDegreeInAllQuarters) {
 }
 
 TEST_F(Roads, BandsKeepTheirOrderThroughEverySave) {
-    ModifyProcedure* editor = &CreateDP();
+    const std::string one = "W,ONE,,0,33.,-118.,0,0,3000,9000,3,\r\nW,TWO,,0,33.,-118.,0,0,";
+    CreateDP();
     Name("KXYZ", "BAND");
     for (const char* fix : {"ONE", "TWO"}) {
         Add({.fix = fix,
-             .latDegrees = "33",
-             .longDegrees = "118",
+             .lat = "33",
+             .lon = "118",
              .altitude = "3000",
              .upperAltitude = "9000",
-             .restriction = &ModifyProcedure::AtAboveAtBelowOption});
+             .restriction = Band});
     }
-    const std::string one = "W,ONE,,0,33.,-118.,0,0,3000,9000,3,\r\n";
-    EXPECT_EQ(Save("KXYZ-BAND.wsd"), Saved(one + "W,TWO,,0,33.,-118.,0,0,3000,9000,3,\r\n"));
-    for (const char* lower : {"4000", "500"}) {
-        editor = &OpenDP("KXYZ-BAND.wsd");
-        user->PicksLine(editor->WaypointList, 1);
-        EXPECT_EQ(editor->Alt2Text.Text(), "9000  ");
-        user->Types(editor->Alt1Text, lower);
-        user->Presses(editor->ModifyWaypointCommand);
-        EXPECT_EQ(Save("KXYZ-BAND.wsd"), Saved(one + "W,TWO,,0,33.,-118.,0,0," + lower + ",9000,3,\r\n"));
-    }
-    editor = &OpenDP("KXYZ-BAND.wsd");
-    user->PicksLine(editor->WaypointList, 1);
-    user->Picks(editor->AtOption);
-    user->Presses(editor->ModifyWaypointCommand);
-    EXPECT_EQ(Save("KXYZ-BAND.wsd"), Saved(one + "W,TWO,,0,33.,-118.,0,0,0,500,0,\r\n"));
+    EXPECT_EQ(Save("KXYZ-BAND.wsd"), Saved(one + "3000,9000,3,\r\n"));
+    const auto modified = [&](const TypedWaypoint& typed) {
+        user->PicksLine(OpenDP("KXYZ-BAND.wsd").WaypointList, 1);
+        EXPECT_EQ(Editor().Alt2Text.Text(), "9000  ");
+        Fill(typed);
+        user->Presses(Editor().ModifyWaypointCommand);
+        return Save("KXYZ-BAND.wsd");
+    };
+    EXPECT_EQ(modified({.altitude = "4000"}), Saved(one + "4000,9000,3,\r\n"));
+    EXPECT_EQ(modified({.altitude = "500"}), Saved(one + "500,9000,3,\r\n"));
+    EXPECT_EQ(modified({.restriction = "At"}), Saved(one + "0,500,0,\r\n"));
     ExpectSilence();
 }
 

@@ -3,69 +3,67 @@
 namespace tarvex::testing {
 namespace {
 
-using Selecting = EditorRoad;
-
-std::string PositionShown(const ModifyProcedure& editor) {
-    return (editor.NLatOption.Value() ? "N" : "S") + editor.DDMLatText.Text() + "/" +
-           editor.DMMLatText.Text() + (editor.ELongOption.Value() ? " E" : " W") + editor.DDMLongText.Text() +
-           "/" + editor.DMMLongText.Text();
-}
-
-std::string RestrictionShown(const ModifyProcedure& editor) {
-    std::string options;
-    for (const OptionButton* option : {&editor.NoRestrictionOption, &editor.AtOption, &editor.AtBelowOption,
-                                       &editor.AtAboveOption, &editor.AtAboveAtBelowOption}) {
-        if (option->Value()) options += option->Caption();
+class Selecting : public EditorRoad {
+  protected:
+    std::string RestrictionShown() {
+        std::string options;
+        for (const OptionButton* option : Restrictions()) {
+            if (option->Value()) options += option->Caption();
+        }
+        return options + "|" + Editor().Alt1Text.Text() + "|" + Editor().Alt2Text.Text();
     }
-    return options + "|" + editor.Alt1Text.Text() + "|" + editor.Alt2Text.Text();
-}
-
-// A record with those fields and a fix's others.
-WaypointRecord Record(const char* latDecimal, const char* latDegrees, const char* longDecimal,
-                      const char* longDegrees, const char* type, const char* altitude1,
-                      const char* altitude2) {
-    WaypointRecord row;
-    row.WaypointID = "FIX";
-    row.LatDecimal = latDecimal;
-    row.LatDegrees = latDegrees;
-    row.LatMinutes = "30";
-    row.LongDecimal = longDecimal;
-    row.LongDegrees = longDegrees;
-    row.LongMinutes = "15";
-    row.RestrictionType = type;
-    row.Altitude1 = altitude1;
-    row.Altitude2 = altitude2;
-    return row;
-}
+};
 
 TEST_F(Selecting, FillsTheBoxesFromEveryFormOfRecord) {
     const struct {
-        WaypointRecord row;
-        const char* position;
-        const char* restriction;
-    } cases[] = {
-        {Record("33.5", "33", "-118.25", "118", "0", "0", "0"), "N33/30 W118/15", "No Restriction||"},
-        {Record("-33.5", "-33", "118.25", "118", "0", "5000", "0"), "S 33/30 E118/15", "At|5000  |"},
-        {Record("0", "-33", "0", "-118", "1", "5000", "0"), "N 33/30 E 118/15", "At or Above|5000  |"},
-        {Record("-.5", "0", " -.5", "", "2", "5000", "0"), "S 0/30 W 0/15", "At or Below|5000  |"},
-        {Record("34.", "- 34", "-0", "-0", "3", "3000", "9000"), "N 34/30 E 0/15",
-         "At or Above & At or Below|3000  |9000  "},
-        {Record("33", "33", "1", "1", "0", "0", "7000"), "N33/30 E1/15", "No Restriction|7000  |"},
-        {Record("33", "33", "1", "1", "0", "-500", "0"), "N33/30 E1/15", "No Restriction|-500  |"},
-        {Record("33", "33", "1", "1", "9", "5000", "0"), "N33/30 E1/15", "No Restriction|5000  |"},
-        {Record("33", "33", "1", "1", "", "", ""), "N33/30 E1/15", "No Restriction||"},
+        const char *latDecimal, *latDegrees, *longDecimal, *longDegrees, *position;
+    } positions[] = {
+        {"33.5", "33", "-118.25", "118", "N33/30 W118/15"},
+        {"-33.5", "-33", "118.25", "118", "S 33/30 E118/15"},
+        {"0", "-33", "0", "-118", "N 33/30 E 118/15"},
+        {"-.5", "0", " -.5", "", "S 0/30 W 0/15"},
+        {"34.", "- 34", "-0", "-0", "N 34/30 E 0/15"},
     };
-    for (const auto& [row, position, restriction] : cases) {
+    const struct {
+        const char *type, *altitude1, *altitude2, *shown;
+    } restrictions[] = {
+        {"0", "0", "0", "No Restriction||"},
+        {"0", "5000", "0", "At|5000  |"},
+        {"1", "5000", "0", "At or Above|5000  |"},
+        {"2", "5000", "0", "At or Below|5000  |"},
+        {"0", "0", "7000", "No Restriction|7000  |"},
+        {"0", "-500", "0", "No Restriction|-500  |"},
+        {"9", "5000", "0", "No Restriction|5000  |"},
+        {"", "", "", "No Restriction||"},
+        {"3", "3000", "9000", "At or Above & At or Below|3000  |9000  "},
+    };
+    const auto select = [&](const WaypointRecord& row) {
         ModifyProcedure& editor = OpenDP("KXYZ-DEMO1.wsd", "W,FIX,,0,1,1,0,0,0,0,0,\r\n");
         State().WaypointTable[0] = row;
         EXPECT_TRUE(user->PicksLine(editor.WaypointList, 0));
-        EXPECT_EQ(PositionShown(editor), position);
-        EXPECT_EQ(RestrictionShown(editor), restriction) << position;
-        EXPECT_EQ(editor.LatEdited, True);
-        EXPECT_EQ(editor.LongEdited, True);
+        EXPECT_TRUE(editor.LatEdited && editor.LongEdited);
         EXPECT_EQ(user->FocusName(), "WaypointList");
         EXPECT_EQ(Row(0), row);
+        const std::string shown = Position() + "|" + RestrictionShown();
         user->Presses(editor.OopsCommand);
+        return shown;
+    };
+    WaypointRecord row;
+    row.WaypointID = "FIX";
+    row.LatMinutes = "30";
+    row.LongMinutes = "15";
+    for (const auto& [latDecimal, latDegrees, longDecimal, longDegrees, position] : positions) {
+        row.LatDecimal = latDecimal;
+        row.LatDegrees = latDegrees;
+        row.LongDecimal = longDecimal;
+        row.LongDegrees = longDegrees;
+        EXPECT_EQ(select(row), std::string(position) + "|No Restriction||");
+    }
+    for (const auto& [type, altitude1, altitude2, restriction] : restrictions) {
+        row.RestrictionType = type;
+        row.Altitude1 = altitude1;
+        row.Altitude2 = altitude2;
+        EXPECT_EQ(select(row), std::string("N 34/30 E 0/15|") + restriction);
     }
     ExpectSilence();
 }
@@ -74,29 +72,19 @@ TEST_F(Selecting, ShowsFixOrNavaidByTheFrequency) {
     ModifyProcedure& editor = OpenDP("KXYZ-DEMO1.wsd",
                                      "W,ALPHA,,0,33,118,0,250,0,0,0,\r\nW,DMO,,0,33,118,113.600,0,0,0,0,"
                                      "\r\nW,X,,0,33,118,0.0,0,0,0,0,\r\n");
-    const struct {
-        int line;
-        const char* fix;
-        const char* navaid;
-        const char* frequency;
-        const char* airspeed;
-    } cases[] = {{0, "ALPHA     ", "", "", "250        "},
-                 {1, "", "DMO       ", "113.60", ""},
-                 {2, "X         ", "", "", ""}};
-    for (const auto& [line, fix, navaid, frequency, airspeed] : cases) {
+    const auto shown = [&](int line) {
         user->PicksLine(editor.WaypointList, line);
-        const bool isFix = *fix != '\0';
-        EXPECT_EQ(editor.FixNameText.Text(), fix);
-        EXPECT_EQ(editor.NAVIDText.Text(), navaid);
-        EXPECT_EQ(editor.FreqText.Text(), frequency);
-        EXPECT_EQ(editor.AirspeedText.Text(), airspeed);
-        EXPECT_EQ(editor.FixNameText.Enabled(), isFix);
-        EXPECT_EQ(editor.FixNameText.BackColor(), isFix ? White : Grey);
-        for (const TextBox* box : {&editor.NAVIDText, &editor.FreqText}) {
-            EXPECT_EQ(box->Enabled(), !isFix);
-            EXPECT_EQ(box->BackColor(), isFix ? Grey : White);
+        std::string boxes;
+        for (const TextBox* box :
+             {&editor.FixNameText, &editor.NAVIDText, &editor.FreqText, &editor.AirspeedText}) {
+            boxes += box->Text() + (box->Enabled() ? "|" : "-");
+            EXPECT_EQ(box->BackColor(), box->Enabled() ? White : Grey) << box->Name();
         }
-    }
+        return boxes;
+    };
+    EXPECT_EQ(shown(0), "ALPHA     |--250        |");
+    EXPECT_EQ(shown(1), "-DMO       |113.60||");
+    EXPECT_EQ(shown(2), "X         |--|");
     ExpectSilence();
 }
 
@@ -105,47 +93,37 @@ TEST_F(Selecting, UpperAltitudeSurvivesOnlyWithTheBand) {
                                      "W,BAND,,0,33,118,0,0,3000,9000,3,\r\n"
                                      "W,ABOVE,,0,33,118,0,0,0,5000,1,\r\n"
                                      "W,LOWER,,0,33,118,0,0,0,0,3,\r\n");
-    user->PicksLine(editor.WaypointList, 0);
-    EXPECT_EQ(RestrictionShown(editor), "At or Above & At or Below|3000  |9000  ");
-    user->PicksLine(editor.WaypointList, 1);
-    EXPECT_EQ(RestrictionShown(editor), "At or Above|5000  |");
-    // A second altitude alone goes to the first box and leaves the second as it was.
-    State().WaypointTable[2].Altitude2 = "7000";
-    user->PicksLine(editor.WaypointList, 0);
-    user->PicksLine(editor.WaypointList, 2);
-    EXPECT_EQ(RestrictionShown(editor), "At or Above & At or Below|7000  |9000  ");
-    // While the option stays, its rule does not run, and the box out of use shows what the row holds.
+    const auto shown = [&](int line) {
+        user->PicksLine(editor.WaypointList, line);
+        return RestrictionShown();
+    };
     State().WaypointTable[1].Altitude2 = "6000";
-    user->PicksLine(editor.WaypointList, 1);
-    EXPECT_EQ(RestrictionShown(editor), "At or Above|5000  |");
-    user->Presses(editor.ClearDataCommand);
+    State().WaypointTable[2].Altitude2 = "7000";
+    EXPECT_EQ(shown(0), "At or Above & At or Below|3000  |9000  ");
+    EXPECT_EQ(shown(1), "At or Above|5000  |");
+    // A second altitude alone goes to the first box and leaves the second as it was.
+    EXPECT_EQ(shown(0), "At or Above & At or Below|3000  |9000  ");
+    EXPECT_EQ(shown(2), "At or Above & At or Below|7000  |9000  ");
+    // While the option stays, its rule does not run, and the box out of use shows what the row holds.
     user->Picks(editor.AtAboveOption);
-    user->PicksLine(editor.WaypointList, 1);
-    EXPECT_EQ(RestrictionShown(editor), "At or Above|5000  |6000  ");
+    EXPECT_EQ(shown(1), "At or Above|5000  |6000  ");
     EXPECT_FALSE(editor.Alt2Text.Enabled());
 }
 
-TEST_F(Selecting, AirspeedThatIsNoNumberComplainsAtOnce) {
-    ModifyProcedure& editor = OpenDP("KXYZ-DEMO1.wsd", "W,ALPHA,,0,33,118,0,250kt,0,5000,1,\r\n");
+TEST_F(Selecting, WhatARuleRefusesComplainsAndTheRestIsShown) {
+    ModifyProcedure& editor =
+        OpenDP("KXYZ-DEMO1.wsd", "W,A,,0,33,118,0,250kt,0,5000,1,\r\nW,B,,0,95.5,118,0,0,0,0,2,\r\n");
     user->PicksLine(editor.WaypointList, 0);
-    ExpectMessage("Enter only numbers please.", "Tarvex 2.35", "AirspeedText");
+    ExpectComplaint("Enter only numbers please.", "AirspeedText");
     EXPECT_EQ(editor.AirspeedText.Text(), "250kt      ");
-    EXPECT_TRUE(editor.AtAboveOption.Value()) << "the rest is shown all the same";
-}
-
-TEST_F(Selecting, PositionOutOfRangeComplainsAndMarksNothing) {
-    ModifyProcedure& editor = OpenDP("KXYZ-DEMO1.wsd", "W,ALPHA,,0,95.5,118,0,0,0,5000,1,\r\n");
-    user->PicksLine(editor.WaypointList, 0);
-    // Every further move of the focus meets the same rule again.
-    const Message complaint{
-        .prompt = "There are no Latitude values greater than 90.\r\n                       Please correct.",
-        .title = "Tarvex 2.35"};
-    EXPECT_EQ(services.messages.Take(), std::vector(3, complaint));
-    EXPECT_EQ(user->FocusName(), "DDMLatText");
-    EXPECT_EQ(editor.LatEdited, False);
-    EXPECT_EQ(editor.LongEdited, False);
-    EXPECT_EQ(PositionShown(editor), "N95/30 E118/0");
     EXPECT_TRUE(editor.AtAboveOption.Value());
+    user->Presses(editor.ClearDataCommand);
+    user->PicksLine(editor.WaypointList, 1);
+    EXPECT_EQ(services.messages.Take().size(), 3U) << "every further move of the focus meets the same rule";
+    EXPECT_EQ(user->FocusName(), "DDMLatText");
+    EXPECT_FALSE(editor.LatEdited || editor.LongEdited);
+    EXPECT_EQ(Position(), "N95/30 E118/0");
+    EXPECT_TRUE(editor.AtBelowOption.Value());
 }
 
 TEST_F(Selecting, SetsTheButtonsOfBothStates) {

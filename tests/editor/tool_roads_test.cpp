@@ -66,22 +66,5 @@ TEST_F(ToolRoads, ApproachOfFoundLaidOutAndDerivedWaypoints) {
     EXPECT_EQ(services.files.Content("C:\\Tarvex\\Tarvex.INI"), "C:\\FS2000\r\nN\r\nW\r\nE\r\n");
 }
 
-TEST_F(ToolRoads, ToolsCloseWithTheEditorWhateverTheirBoxesHold) {
-    PutNavaid("ABC", "116.80", "33.5", "-117.25");
-    ModifyProcedure& editor = Create(&InitialLoad::CreateDP);
-    user->Presses(editor.CreateWaypointCommand);
-    user->Presses(editor.AddArcCommand);
-    user->Presses(Designer().Command1);
-    user->Presses(Designer().LatLongCommand);
-    user->Types(Centre().DLatCenterText, "99");
-    EXPECT_FALSE(user->Presses(editor.OopsCommand));
-    services.messages.Take();
-    program->door.CloseWindow(program->modifyProcedure);
-    EXPECT_FALSE(program->findWaypointForm.IsLoaded() || program->addARC.IsLoaded() ||
-                 program->latLongForm.IsLoaded() || program->createWaypointForm.IsLoaded());
-    EXPECT_TRUE(Menu().Visible());
-    ExpectSilence();
-}
-
 }  // namespace
 }  // namespace tarvex::testing

@@ -1,23 +1,8 @@
+#include "geometry/coordinate_rules.h"
 #include "support/tool_road.h"
 
 namespace tarvex::testing {
 namespace {
-
-constexpr const char* NumbersOnly = "Enter only numbers please.";
-constexpr const char* SixtyMinutes = "Minutes must be less than 60.\r\n            Please correct.";
-constexpr const char* LatMinutesPastPole =
-    "Latitude degrees is 90. Minutes must be zero.\r\n                         Please correct.";
-constexpr const char* LongMinutesPastLimit =
-    "Longitude degrees is 180. Minutes must be zero.\r\n                         Please correct.";
-constexpr const char* TooManyLatDegrees =
-    "There are no Latitude values greater than 90.\r\n                       Please correct.";
-constexpr const char* TooManyLongDegrees =
-    "There are no Longitude values greater than 180.\r\n                       Please correct.";
-constexpr const char* NoLatDegrees =
-    "You must type in the Latitude degrees.\r\n                  Please correct.";
-constexpr const char* NoLongDegrees =
-    "You must type in the Longitude degrees.\r\n                   Please correct.";
-constexpr const char* Negative = "Enter positive numbers and select the hemisphere please.";
 
 class ArcCentre : public ToolRoad {
   protected:
@@ -27,46 +12,6 @@ class ArcCentre : public ToolRoad {
         user->Presses(Designer().LatLongCommand);
     }
 };
-
-TEST_F(ArcCentre, BoxesAreCheckedWhenTheFocusLeaves) {
-    const struct {
-        TextBox LatLongForm::*degreesBox;
-        TextBox LatLongForm::*minutesBox;
-        const char *degrees, *minutes, *complaint;  // null minutes: leave the degrees
-    } cases[] = {
-        {&LatLongForm::DLatCenterText, {}, "90", nullptr, ""},
-        {&LatLongForm::DLatCenterText, {}, "", nullptr, ""},
-        {&LatLongForm::DLatCenterText, {}, "91", nullptr, TooManyLatDegrees},
-        {&LatLongForm::DLatCenterText, {}, "3x", nullptr, NumbersOnly},
-        {&LatLongForm::DLongCenterText, {}, "181", nullptr, TooManyLongDegrees},
-        {&LatLongForm::DLongCenterText, {}, "180", nullptr, ""},
-        {&LatLongForm::DLatCenterText, &LatLongForm::MLatCenterText, "33", "", NumbersOnly},
-        {&LatLongForm::DLatCenterText, &LatLongForm::MLatCenterText, "90", "1x", NumbersOnly},
-        {&LatLongForm::DLatCenterText, &LatLongForm::MLatCenterText, "90", "0.5", LatMinutesPastPole},
-        {&LatLongForm::DLatCenterText, &LatLongForm::MLatCenterText, "90", "0", ""},
-        {&LatLongForm::DLatCenterText, &LatLongForm::MLatCenterText, "33", "60", SixtyMinutes},
-        {&LatLongForm::DLatCenterText, &LatLongForm::MLatCenterText, "33", "59.999999", ""},
-        {&LatLongForm::DLongCenterText, &LatLongForm::MLongCenterText, "117", "", ""},
-        {&LatLongForm::DLongCenterText, &LatLongForm::MLongCenterText, "180", "1x", LongMinutesPastLimit},
-        {&LatLongForm::DLongCenterText, &LatLongForm::MLongCenterText, "117", "61x", SixtyMinutes},
-        {&LatLongForm::DLongCenterText, &LatLongForm::MLongCenterText, "117", "1x", NumbersOnly},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(std::string(c.degrees) + " " + (c.minutes == nullptr ? "" : c.minutes));
-        TextBox& degrees = Centre().*c.degreesBox;
-        TextBox& left = c.minutes == nullptr ? degrees : Centre().*c.minutesBox;
-        user->Types(degrees, c.degrees);
-        if (c.minutes != nullptr) user->Types(left, c.minutes);
-        user->MovesTo(Centre().SouthOption);
-        if (*c.complaint == '\0') {
-            ExpectSilence();
-            continue;
-        }
-        ExpectComplaint(c.complaint, left.Name());
-        user->Types(left, "0");
-        user->MovesTo(Centre().SouthOption);
-    }
-}
 
 TEST_F(ArcCentre, DoneTakesACompletePosition) {
     const struct {
@@ -98,16 +43,22 @@ TEST_F(ArcCentre, DoneTakesACompletePosition) {
 }
 
 TEST_F(ArcCentre, DoneComplainsAboutTheFirstBoxThatIsWrong) {
+    constexpr std::string_view NoLat =
+        "You must type in the Latitude degrees.\r\n                  Please correct.";
+    constexpr std::string_view NoLong =
+        "You must type in the Longitude degrees.\r\n                   Please correct.";
+    constexpr std::string_view Negative = "Enter positive numbers and select the hemisphere please.";
     const struct {
-        const char *latDegrees, *latMinutes, *longDegrees, *longMinutes, *complaint, *focus;
+        const char *latDegrees, *latMinutes, *longDegrees, *longMinutes;
+        std::string_view complaint;
+        const char* focus;
     } cases[] = {
-        {"", "", "", "", NoLatDegrees, "DLatCenterText"},
-        {"33", "30", "", "15", NoLongDegrees, "DLongCenterText"},
-        {"91", "", "117", "", TooManyLatDegrees, "DLatCenterText"},
-        {"90", "1", "117", "", LatMinutesPastPole, "MLatCenterText"},
-        {"33", "1x", "117", "", NumbersOnly, "MLatCenterText"},
-        {"33", "", "180", "1", LongMinutesPastLimit, "MLongCenterText"},
-        {"33", "", "117", "60", SixtyMinutes, "MLongCenterText"},
+        {"", "", "", "", NoLat, "DLatCenterText"},
+        {"33", "30", "", "15", NoLong, "DLongCenterText"},
+        {"91", "1x", "181", "", LatitudeAxis.tooManyDegrees, "DLatCenterText"},
+        {"90", "1", "", "", LatitudeAxis.minutesPastLimit, "MLatCenterText"},
+        {"33", "1x", "117", "", EnterOnlyNumbers, "MLatCenterText"},
+        {"33", "", "180", "1", LongitudeAxis.minutesPastLimit, "MLongCenterText"},
         {"-3", "", "117", "", Negative, "DLatCenterText"},
         {"33", "", "117", "-1", Negative, "MLongCenterText"},
     };

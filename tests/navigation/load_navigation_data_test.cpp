@@ -1,17 +1,14 @@
 #include "navigation/load_navigation_data.h"
 
 #include <gtest/gtest.h>
-#include <random>
 
-#include "geometry/text_file.h"
-#include "geometry/text_rules.h"
 #include "support/memory_file_system.h"
 #include "toolkit/failure.h"
 
 namespace tarvex::testing {
 namespace {
 
-const std::string Folder = "C:\\FS2000";
+const std::string Base = "C:\\FS2000\\GIOSTAM\\navdata\\";
 const std::string Unread(24, '-');  // the first 24 columns
 
 class LoadNavigationDataTest : public ::testing::Test {
@@ -19,11 +16,12 @@ class LoadNavigationDataTest : public ::testing::Test {
     LoadNavigationDataTest() { Put("", "", ""); }
 
     void Put(const std::string& fixes, const std::string& navaids, const std::string& airports) {
-        files.Put(Folder + "\\GIOSTAM\\navdata\\wpNavFIX.txt", fixes);
-        files.Put(Folder + "\\GIOSTAM\\navdata\\wpNavAID.txt", navaids);
-        files.Put(Folder + "\\GIOSTAM\\navdata\\wpNavAPT.txt", airports);
+        files.Put(Base + "wpNavFIX.txt", fixes);
+        files.Put(Base + "wpNavAID.txt", navaids);
+        files.Put(Base + "wpNavAPT.txt", airports);
     }
-    std::vector<LeftOutEntries> Load() { return LoadNavigationData(files, Folder, tables); }
+    std::vector<LeftOutEntries> Load() { return LoadNavigationData(files, "C:\\FS2000", tables); }
+    bool HasData() { return HasNavigationData(files, "C:\\FS2000"); }
     // The number and the reason of the failure; empty without one.
     std::string FailureOfLoad() {
         try {
@@ -35,29 +33,32 @@ class LoadNavigationDataTest : public ::testing::Test {
     }
     std::vector<int> Counts() const { return {tables.FixCount, tables.NavaidCount, tables.AirportCount}; }
     std::string Fix(std::size_t index) const {
-        const FixRecord& fix = tables.FixTable[index];
-        return fix.FixID.Text() + "|" + fix.FixLat.Text() + "|" + fix.FixLong.Text();
+        const auto& [id, lat, lon] = tables.FixTable[index];
+        return id.Text() + "|" + lat.Text() + "|" + lon.Text();
     }
     std::string Navaid(std::size_t index) const {
-        const NavaidRecord& navaid = tables.NavaidTable[index];
-        return navaid.NavaidID.Text() + "|" + navaid.NavaidFreq.Text() + "|" + navaid.NavaidLat.Text() + "|" +
-               navaid.NavaidLong.Text();
+        const auto& [id, frequency, lat, lon] = tables.NavaidTable[index];
+        return id.Text() + "|" + frequency.Text() + "|" + lat.Text() + "|" + lon.Text();
     }
     std::string Airport(std::size_t index) const {
-        const AirportRecord& airport = tables.AirportTable[index];
-        return airport.AirportID.Text() + "|" + airport.AirportLat.Text() + "|" + airport.AirportLong.Text() +
-               "|" + std::to_string(airport.AirportElevation);
+        const auto& [id, lat, lon, elevation] = tables.AirportTable[index];
+        return id.Text() + "|" + lat.Text() + "|" + lon.Text() + "|" + std::to_string(elevation);
     }
 
     MemoryFileSystem files;
     NavigationTables tables;
 };
 
+using Lines = std::vector<std::pair<std::string, std::string>>;  // and what is read from each
+
+std::string FileOf(const Lines& lines) {
+    std::string file;
+    for (const auto& [line, read] : lines) file += line + "\r\n";
+    return file;
+}
+
 TEST_F(LoadNavigationDataTest, FixFieldsStandInTheirColumns) {
-    const struct {
-        std::string line;
-        const char* fix;
-    } cases[] = {
+    const Lines lines = {
         {Unread + "ROBUC 40.512345 -73.8512349EXTRA", "ROBUC| 40.512345| -73.851234"},
         {Unread + "AB   -9.5      +179.25    ", "AB   |-9.5      |+179.25    "},
         {Unread + "SHORT 12", "SHORT| 12       |           "},
@@ -66,19 +67,14 @@ TEST_F(LoadNavigationDataTest, FixFieldsStandInTheirColumns) {
         {" ;" + Unread.substr(2) + "BLANK1234567890abcdefghijk", "BLANK|1234567890|abcdefghijk"},
         {Unread + "\xC4\t\x01\x80\x0B 1.0       2.0       \x7F", "\xC4\t\x01\x80\x0B| 1.0      | 2.0       "},
     };
-    std::string file = "; a comment\r\n;\r\n";
-    for (const auto& c : cases) file += c.line + "\r\n";
-    Put(file, "", "");
+    Put("; a comment\r\n;\r\n" + FileOf(lines), "", "");
     EXPECT_TRUE(Load().empty());
-    EXPECT_EQ(Counts(), (std::vector{static_cast<int>(std::size(cases)) - 1, -1, -1}));
-    for (std::size_t i = 0; i < std::size(cases); ++i) EXPECT_EQ(Fix(i), cases[i].fix) << cases[i].line;
+    EXPECT_EQ(Counts(), (std::vector{static_cast<int>(lines.size()) - 1, -1, -1}));
+    for (std::size_t i = 0; i < lines.size(); ++i) EXPECT_EQ(Fix(i), lines[i].second) << lines[i].first;
 }
 
 TEST_F(LoadNavigationDataTest, NavaidsAreCutAtTheirPoints) {
-    const struct {
-        std::string line;
-        const char* navaid;
-    } cases[] = {
+    const Lines lines = {
         {Unread + "DMO  VOR 34.123456-117.123456110.50H", "DMO  |110.50|34.123456 |-117.123456"},
         {Unread + "XY   NDB -4.123456  7.123456 365.0 ", "XY   | 365.0|-4.123456 |  7.123456 "},
         // The frequency counts from the end of the line, whatever stands there.
@@ -90,128 +86,67 @@ TEST_F(LoadNavigationDataTest, NavaidsAreCutAtTheirPoints) {
         // A point in front of column 34 is no latitude's.
         {Unread + "A.B  V.R 34.123456-117.123456110.50H", "A.B  |110.50|34.123456 |-117.123456"},
     };
-    std::string file;
-    for (const auto& c : cases) file += c.line + "\r\n";
-    Put("", file, "; none");
+    Put("", FileOf(lines), "; none");
     EXPECT_TRUE(Load().empty());
-    EXPECT_EQ(Counts(), (std::vector{-1, static_cast<int>(std::size(cases)) - 1, -1}));
-    for (std::size_t i = 0; i < std::size(cases); ++i) EXPECT_EQ(Navaid(i), cases[i].navaid) << cases[i].line;
+    EXPECT_EQ(Counts(), (std::vector{-1, static_cast<int>(lines.size()) - 1, -1}));
+    for (std::size_t i = 0; i < lines.size(); ++i) EXPECT_EQ(Navaid(i), lines[i].second) << lines[i].first;
 }
 
 TEST_F(LoadNavigationDataTest, AirportsHaveAnElevationOf16Bits) {
     const std::string line = Unread + "KXYZ27LLengthHd 34.123456-117.123456Freq.Crs. ";
-    ASSERT_EQ(line.size(), 70U);
-    const struct {
-        const char* elevation;
-        const char* expected;
-    } cases[] = {
-        {"00125", "125"},
-        {"  -11", "-11"},
-        {"", "0"},
-        {"abcde", "0"},
-        {" 12.5", "12"},
-        {" 13.5", "14"},
-        {"1 2 3", "123"},
-        {"32767", "32767"},
-        {"-32768", "-3276"},
-        {"125  9", "125"},
-        {"\xFF"
-         "1",
-         "0"},
-        {"   7", "7"},
+    const std::pair<const char*, const char*> elevations[] = {
+        {"00125", "125"},    {"  -11", "-11"},  {"", "0"},        {"abcde", "0"},
+        {" 12.5", "12"},     {" 13.5", "14"},   {"1 2 3", "123"}, {"32767", "32767"},
+        {"-32768", "-3276"}, {"125  9", "125"}, {"\xFFz1", "0"},
     };
-    std::string file;
-    for (const auto& c : cases) file += line + c.elevation + "\r\n";
-    file += Unread + "KX\r\n\r\n";
-    Put("", "", file);
+    Lines lines = {{Unread + "KX", "KX     |          |           |0"},
+                   {"", "       |          |           |0"}};
+    for (const auto& [text, read] : elevations) {
+        lines.emplace_back(line + text, std::string("KXYZ27L| 34.123456|-117.123456|") + read);
+    }
+    Put("", "", FileOf(lines));
     EXPECT_TRUE(Load().empty());
-    const std::size_t count = std::size(cases);
-    EXPECT_EQ(Counts(), (std::vector{-1, -1, static_cast<int>(count) + 1}));
-    for (std::size_t i = 0; i < count; ++i) {
-        EXPECT_EQ(Airport(i), std::string("KXYZ27L| 34.123456|-117.123456|") + cases[i].expected);
-    }
-    EXPECT_EQ(Airport(count), "KX     |          |           |0");
-    EXPECT_EQ(Airport(count + 1), "       |          |           |0");
-}
-
-TEST_F(LoadNavigationDataTest, RubbishIsReadLineByLine) {
-    std::mt19937 random(767);
-    constexpr std::string_view characters("\r\n;. A0\t\x80\xFF\0", 11);
-    for (int round = 0; round < 50; ++round) {
-        std::string file;
-        for (int i = 0; i < 2000; ++i) {
-            // Line ends often enough for empty lines, seldom enough for long ones.
-            const std::size_t from = round % 2 == 0 || random() % 20 == 0 ? 0 : 3;
-            file += characters[from + random() % (characters.size() - from)];
-        }
-        Put(file, "", "");
-        Load();
-        TextReader lines(file, "rubbish");
-        std::size_t entries = 0;
-        while (!lines.AtEndOfFile()) {
-            const std::string_view line = lines.ReadTextLine();
-            if (line.starts_with(';')) continue;
-            const FixRecord expected{Mid(line, 25, 5), Mid(line, 30, 10), Mid(line, 40, 12)};
-            const FixRecord& fix = tables.FixTable[entries++];
-            ASSERT_TRUE(fix.FixID == expected.FixID && fix.FixLat == expected.FixLat &&
-                        fix.FixLong == expected.FixLong)
-                << line;
-        }
-        ASSERT_EQ(tables.FixCount, static_cast<int>(entries) - 1);
-    }
+    EXPECT_EQ(Counts(), (std::vector{-1, -1, static_cast<int>(lines.size()) - 1}));
+    for (std::size_t i = 0; i < lines.size(); ++i) EXPECT_EQ(Airport(i), lines[i].second);
 }
 
 TEST_F(LoadNavigationDataTest, FailureNamesTheLineAndLeavesTheTablesEmpty) {
     const std::string navaid = Unread + "DMO  VOR 34.123456-117.123456110.50H\r\n";
     const std::string airport = Unread + "KXYZ27LLengthHd 34.123456-117.123456Freq.Crs. ";
-    const std::string fixPath = Folder + "\\GIOSTAM\\navdata\\wpNavFIX.txt";
-    const std::string navaidPath = Folder + "\\GIOSTAM\\navdata\\wpNavAID.txt";
-    const std::string airportPath = Folder + "\\GIOSTAM\\navdata\\wpNavAPT.txt";
-    const std::string noLat =
-        "5 " + navaidPath + ", line 3: no decimal point from column 34 on, in the latitude";
-    const std::string noLong =
-        "5 " + navaidPath + ", line 3: no decimal point from column 42 on, in the longitude";
-    const struct {
-        std::string navaids;
-        std::string airports;
-        std::string failure;
-    } cases[] = {
-        {"; 1\r\n" + navaid + "\r\n" + navaid, "", noLat},
-        {"; 1\r\n" + navaid + Unread + "DMO  VOR", "", noLat},
-        {"; 1\r\n" + navaid + Unread + "DM.  VOR 34", "", noLat},
-        {"; 1\r\n" + navaid + Unread + "DMO  VOR 34.12", "", noLong},
-        {"; 1\r\n" + navaid + Unread + "DMO  VOR 34.12345 -117", "", noLong},
-        {navaid, airport + "32767\n" + airport + "32768\n",
-         "6 " + airportPath + ", line 2: the elevation 32768 does not fit 16 bits"},
-        {navaid, airport + "-9E9\r",
-         "6 " + airportPath + ", line 1: the elevation -9E9 does not fit 16 bits"},
-        {navaid, airport + "9E999",
-         "6 " + airportPath + ", line 1: the elevation 9E999 does not fit 16 bits"},
-    };
-    for (const auto& c : cases) {
+    const auto fails = [&](const std::string& navaids, const std::string& airports,
+                           const std::string& failure) {
         Put(Unread + "FIX", navaid, airport);
         ASSERT_EQ(FailureOfLoad(), "");
-        EXPECT_EQ(Counts(), (std::vector{0, 0, 0}));
-        Put(Unread + "FIX", c.navaids, c.airports);
-        EXPECT_EQ(FailureOfLoad(), c.failure);
+        Put(Unread + "FIX", navaids, airports);
+        EXPECT_EQ(FailureOfLoad(), failure);
         EXPECT_EQ(Counts(), (std::vector{-1, -1, -1}));
+    };
+    const std::string line3 = "5 " + Base + "wpNavAID.txt, line 3: no decimal point from column ";
+    for (const char* latitude : {"", "DMO  VOR", "DM.  VOR 34"}) {
+        fails("; 1\r\n" + navaid + Unread + latitude, "", line3 + "34 on, in the latitude");
     }
-    for (const std::string& path : {fixPath, navaidPath, airportPath}) {
+    for (const char* longitude : {"", "5 -117"}) {
+        fails("; 1\r\n" + navaid + Unread + "DMO  VOR 34.1234" + longitude, "",
+              line3 + "42 on, in the longitude");
+    }
+    for (const std::string elevation : {"32768", "-9E9", "9E999"}) {
+        fails(navaid, airport + "32767\n" + airport + elevation,
+              "6 " + Base + "wpNavAPT.txt, line 2: the elevation " + elevation + " does not fit 16 bits");
+    }
+    for (const char* name : {"wpNavFIX.txt", "wpNavAID.txt", "wpNavAPT.txt"}) {
         Put("", "", "");
-        files.Remove(path);
-        EXPECT_EQ(FailureOfLoad(), "53 " + path + ": no such file");
-        EXPECT_FALSE(HasNavigationData(files, Folder));
+        EXPECT_TRUE(HasData());
+        files.Remove(Base + name);
+        EXPECT_EQ(FailureOfLoad(), "53 " + Base + name + ": no such file");
+        EXPECT_FALSE(HasData());
     }
-    Put("", "", "");
-    EXPECT_TRUE(HasNavigationData(files, Folder));
-    files.RemoveFolder(Folder + "\\GIOSTAM");
-    EXPECT_EQ(FailureOfLoad(), "76 " + Folder + "\\GIOSTAM\\navdata: no such folder");
-    EXPECT_FALSE(HasNavigationData(files, Folder));
+    files.RemoveFolder("C:\\FS2000\\GIOSTAM");
+    EXPECT_EQ(FailureOfLoad(), "76 C:\\FS2000\\GIOSTAM\\navdata: no such folder");
+    EXPECT_FALSE(HasData());
 }
 
 std::string Repeated(const std::string& line, std::size_t times) {
     std::string text;
-    text.reserve(line.size() * times);
     for (std::size_t i = 0; i < times; ++i) text += line;
     return text;
 }
@@ -225,12 +160,11 @@ TEST_F(LoadNavigationDataTest, EntriesBeyondTheTablesAreLeftOut) {
     EXPECT_EQ(Fix(190000), "LAST |          |           ");
 
     // What is left out isn't looked into.
-    const std::string base = Folder + "\\GIOSTAM\\navdata\\";
     Put(Repeated("\r\n", 10'000'000), Repeated(navaid, MaxNavaids) + "no point\r\n;\r\n\r\n",
         Repeated("\r", MaxAirports) + "one more");
-    EXPECT_EQ(Load(), (std::vector<LeftOutEntries>{{base + "wpNavFIX.txt", 10'000'000 - MaxFixes},
-                                                   {base + "wpNavAID.txt", 2},
-                                                   {base + "wpNavAPT.txt", 1}}));
+    EXPECT_EQ(Load(), (std::vector<LeftOutEntries>{{Base + "wpNavFIX.txt", 10'000'000 - MaxFixes},
+                                                   {Base + "wpNavAID.txt", 2},
+                                                   {Base + "wpNavAPT.txt", 1}}));
     EXPECT_EQ(Counts(), (std::vector{190000, 20000, 14400}));
     EXPECT_EQ(Fix(190000), "     |          |           ");
 }

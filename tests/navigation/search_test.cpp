@@ -19,21 +19,22 @@ TEST(SearchTest, FindsWholeNamesInTableOrder) {
         tables.AirportTable[static_cast<std::size_t>(++tables.AirportCount)] = {id, "1", "2", 0};
     }
 
-    const struct {
-        NavigationTable table;
-        const char* text;
-        std::vector<std::int32_t> found;
-    } cases[] = {
-        {Fixes, "ABC", {1, 2, 3, 9}}, {Fixes, "ABCD", {0}},       {Fixes, "ABCDE", {4}},
-        {Fixes, "ABCDEF", {}},        {Fixes, "AB", {}},          {Fixes, " ABC", {}},
-        {Fixes, "ABC ", {}},          {Fixes, "abc", {6}},        {Fixes, "", {8}},
-        {Navaids, "DMO", {0, 2}},     {Airports, "KXYZ", {0, 1}}, {Airports, "KXY ", {2}},
-        {Airports, "KXY", {}},        {Airports, " XYZ", {3}},    {Airports, "XYZ", {}},
-        {Airports, "KXYZ2", {}},      {Airports, "", {}},
+    const auto found = [&](NavigationTable table, const char* text) {
+        return FindEntries(tables, table, text);
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(FindEntries(tables, c.table, c.text), c.found) << '"' << c.text << '"';
-    }
+    using Indices = std::vector<std::int32_t>;
+    EXPECT_EQ(found(Fixes, "ABC"), (Indices{1, 2, 3, 9}));
+    EXPECT_EQ(found(Fixes, "ABCD"), Indices{0});
+    EXPECT_EQ(found(Fixes, "ABCDE"), Indices{4});
+    EXPECT_EQ(found(Fixes, "abc"), Indices{6});
+    EXPECT_EQ(found(Fixes, ""), Indices{8});
+    EXPECT_EQ(found(Navaids, "DMO"), (Indices{0, 2}));
+    EXPECT_EQ(found(Airports, "KXYZ"), (Indices{0, 1}));
+    EXPECT_EQ(found(Airports, "KXY "), Indices{2});
+    EXPECT_EQ(found(Airports, " XYZ"), Indices{3});
+    for (const char* none : {"ABCDEF", "AB", " ABC", "ABC "})
+        EXPECT_EQ(found(Fixes, none), Indices{}) << none;
+    for (const char* none : {"KXY", "XYZ", "KXYZ2", ""}) EXPECT_EQ(found(Airports, none), Indices{}) << none;
 }
 
 TEST(SearchTest, LooksAtTheLastEntryAndNotBehindIt) {

@@ -1,16 +1,10 @@
 #include "procedure/procedure_file_name.h"
 
 #include <gtest/gtest.h>
-#include <ostream>
 
 #include "toolkit/failure.h"
 
 namespace tarvex {
-
-void PrintTo(const ProcedureName& name, std::ostream* out) {
-    *out << name.icao << '|' << name.basicName << '|' << name.secondName << '|'
-         << static_cast<int>(name.kind);
-}
 
 namespace {
 
@@ -19,8 +13,7 @@ using Kind = ProcedureName::Kind;
 TEST(ProcedureFileName, IsBuiltFromTheBoxesAndTheMode) {
     const struct {
         ProcedureName name;
-        const char* modes;
-        const char* built;
+        const char *modes, *built;
     } cases[] = {
         {{"kxyz", "demo1", ""}, "DE", "KXYZ-DEMO1.wsd"},
         {{"KXYZ", "DEMO1", ""}, "ST", "KXYZ-DEMO1.wst"},
@@ -43,10 +36,7 @@ TEST(ProcedureFileName, IsBuiltFromTheBoxesAndTheMode) {
 }
 
 TEST(ProcedureFileName, IsSplitAtItsFirstSeparators) {
-    const struct {
-        const char* fileName;
-        ProcedureName name;
-    } cases[] = {
+    const std::pair<const char*, ProcedureName> cases[] = {
         {"KXYZ-DEMO1.wsd", {"KXYZ", "DEMO1", "", Kind::Main}},
         {"kxyz-demo1.ABC.tr", {"kxyz", "demo1", "ABC", Kind::Transition}},
         {"KXYZ-DEMO1.27L.rwy", {"KXYZ", "DEMO1", "27L", Kind::Runway}},
@@ -59,26 +49,19 @@ TEST(ProcedureFileName, IsSplitAtItsFirstSeparators) {
 }
 
 TEST(ProcedureFileName, WithoutASeparatorItNeedsIsRefused) {
-    const struct {
-        const char* fileName;
-        const char* reason;
-    } cases[] = {
-        {"", ": the name has no \"-\" behind the airport's code"},
-        {"KXYZ.wsd", "KXYZ.wsd: the name has no \"-\" behind the airport's code"},
-        {"KXYZ-DEMO1", "KXYZ-DEMO1: the name has no \".\" that ends the basic name"},
-        {"KX.YZ-DEMO1", "KX.YZ-DEMO1: the name has no \".\" that ends the basic name"},
-        {"KXYZ-DEMO1.tr", "KXYZ-DEMO1.tr: the name has no second \".\" that ends the transition or runway"},
-        {"KXYZ-DEMO1.rwy", "KXYZ-DEMO1.rwy: the name has no second \".\" that ends the transition or runway"},
-    };
-    for (const auto& [fileName, reason] : cases) {
+    const auto refused = [](const std::string& fileName, const char* reason) {
         try {
             SplitProcedureFileName(fileName);
             ADD_FAILURE() << fileName;
         } catch (const Failure& failure) {
             EXPECT_EQ(failure.Number(), BadArgument);
-            EXPECT_EQ(failure.Reason(), reason);
+            EXPECT_EQ(failure.Reason(), fileName + ": the name has no " + reason);
         }
-    }
+    };
+    for (const char* name : {"", "KXYZ.wsd"}) refused(name, "\"-\" behind the airport's code");
+    for (const char* name : {"KXYZ-DEMO1", "KX.YZ-DEMO1"}) refused(name, "\".\" that ends the basic name");
+    for (const char* name : {"KXYZ-DEMO1.tr", "KXYZ-DEMO1.rwy"})
+        refused(name, "second \".\" that ends the transition or runway");
 }
 
 }  // namespace

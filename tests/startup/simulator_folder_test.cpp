@@ -25,23 +25,19 @@ TEST(SimulatorFolderTest, ReadsOneValue) {
     registry.Put(LocalMachine, "Software\\Tarvex", "path", WithZero("product"));
     registry.Put(0x80000001, "Software\\App", "path", WithZero("user's"));
 
-    const struct {
-        const char* app;
-        const char* section;
-        const char* key;
-        const char* expected;
-    } cases[] = {
-        {"App", "7.0", "path", " C:\\Sim "}, {" App  ", "7.0", "path", " C:\\Sim "},
-        {"App", "7.0", "*", "unnamed"},      {"App", "7.0", "bare", "ab"},
-        {"App", "7.0", "empty", ""},         {"App", "7.0", "nothing", "default"},
-        {"App", "7.0", "none", "default"},   {"App", "8.0", "path", "default"},
-        {"App", "", "path", "no section"},   {"", "", "path", "product"},
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ(ReadRegistryValue(registry, c.app, c.section, c.key, "default"), c.expected)
-            << c.app << ", " << c.section << ", " << c.key;
+    const auto read = [&](const char* app, const char* section, const char* key) {
+        const std::string value = ReadRegistryValue(registry, app, section, key, "default");
         EXPECT_EQ(registry.OpenKeys(), 0);
-    }
+        return value;
+    };
+    EXPECT_EQ(read("App", "7.0", "path"), " C:\\Sim ");
+    EXPECT_EQ(read(" App  ", "7.0", "*"), "unnamed");
+    EXPECT_EQ(read("App", "7.0", "bare"), "ab");
+    EXPECT_EQ(read("App", "7.0", "empty"), "");
+    EXPECT_EQ(read("App", "", "path"), "no section");
+    EXPECT_EQ(read("", "", "path"), "product");
+    for (const char* missing : {"nothing", "none"}) EXPECT_EQ(read("App", "7.0", missing), "default");
+    EXPECT_EQ(read("App", "8.0", "path"), "default");
 
     CRegistry_Manipulation manipulation(registry);
     manipulation.AppName(" App ");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <optional>
 #include <string>
@@ -14,18 +15,18 @@ namespace tarvex::testing {
 
 // What a user keys in for one waypoint, a box or an option each; what is empty, or null, is not touched.
 struct TypedWaypoint {
-    const char* fix = "";
-    const char* navaid = "";
-    const char* frequency = "";
-    const char* latDegrees = "";
-    const char* latMinutes = "";
-    const char* longDegrees = "";
-    const char* longMinutes = "";
-    const char* altitude = "";
-    const char* upperAltitude = "";
-    const char* airspeed = "";
-    OptionButton ModifyProcedure::*restriction = nullptr;
+    std::string_view fix{};
+    std::string_view navaid{};
+    std::string_view frequency{};
+    std::string_view lat{};  // degrees, and minutes behind a blank
+    std::string_view lon{};
+    std::string_view altitude{};
+    std::string_view upperAltitude{};
+    std::string_view airspeed{};
+    std::string_view restriction{};  // the option's caption
 };
+
+inline constexpr std::string_view Band = "At or Above & At or Below";
 
 // A user at the menu of a program with a simulator folder, on the way into the editor and out of it.
 class EditorRoad : public ::testing::Test {
@@ -62,19 +63,26 @@ class EditorRoad : public ::testing::Test {
         user->Types(Editor().AptNameText, airport);
         user->Types(Editor().BasicNameText, basic);
     }
+    std::vector<OptionButton*> Restrictions() {
+        ModifyProcedure& form = Editor();
+        return {&form.NoRestrictionOption, &form.AtOption, &form.AtBelowOption, &form.AtAboveOption,
+                &form.AtAboveAtBelowOption};
+    }
     void Fill(const TypedWaypoint& typed) {
         ModifyProcedure& editor = Editor();
-        if (typed.restriction != nullptr) user->Picks(editor.*typed.restriction);
-        const std::pair<TextBox*, const char*> boxes[] = {
-            {&editor.FixNameText, typed.fix},         {&editor.NAVIDText, typed.navaid},
-            {&editor.FreqText, typed.frequency},      {&editor.DDMLatText, typed.latDegrees},
-            {&editor.DMMLatText, typed.latMinutes},   {&editor.DDMLongText, typed.longDegrees},
-            {&editor.DMMLongText, typed.longMinutes}, {&editor.Alt1Text, typed.altitude},
-            {&editor.Alt2Text, typed.upperAltitude},  {&editor.AirspeedText, typed.airspeed},
-        };
-        for (const auto& [box, text] : boxes) {
-            if (*text != '\0') user->Types(*box, text);
+        for (OptionButton* option : Restrictions()) {
+            if (option->Caption() == typed.restriction) user->Picks(*option);
         }
+        const auto degrees = [](std::string_view text) { return text.substr(0, text.find(' ')); };
+        const auto minutes = [&](std::string_view text) {
+            return text.substr(std::min(degrees(text).size() + 1, text.size()));
+        };
+        user->Fills(
+            {&editor.FixNameText, &editor.NAVIDText, &editor.FreqText, &editor.DDMLatText, &editor.DMMLatText,
+             &editor.DDMLongText, &editor.DMMLongText, &editor.Alt1Text, &editor.Alt2Text,
+             &editor.AirspeedText},
+            {typed.fix, typed.navaid, typed.frequency, degrees(typed.lat), minutes(typed.lat),
+             degrees(typed.lon), minutes(typed.lon), typed.altitude, typed.upperAltitude, typed.airspeed});
     }
     void Add(const TypedWaypoint& typed) {
         Fill(typed);
@@ -83,7 +91,7 @@ class EditorRoad : public ::testing::Test {
     void AddFixes(int count) {
         for (int i = 0; i < count; ++i) {
             const std::string name = "FIX" + std::to_string(State().WaypointCount);
-            Add({.fix = name.c_str(), .latDegrees = "33", .longDegrees = "117"});
+            Add({.fix = name, .lat = "33", .lon = "117"});
         }
     }
 
@@ -107,7 +115,18 @@ class EditorRoad : public ::testing::Test {
         EXPECT_EQ(services.messages.Take(), std::vector{message});
         EXPECT_EQ(user->FocusName(), focus);
     }
+    // The same by its words, under the program's own title.
+    void ExpectComplaint(std::string_view prompt, std::string_view focus) {
+        ExpectMessage(prompt, ProgramTitle, focus);
+    }
     void ExpectSilence() { EXPECT_EQ(services.messages.Take(), std::vector<Message>()); }
+    // The editor's position, as "N33/30. W117/15.".
+    std::string Position() {
+        ModifyProcedure& editor = Editor();
+        return (editor.NLatOption.Value() ? "N" : "S") + editor.DDMLatText.Text() + "/" +
+               editor.DMMLatText.Text() + (editor.ELongOption.Value() ? " E" : " W") +
+               editor.DDMLongText.Text() + "/" + editor.DMMLongText.Text();
+    }
     std::vector<std::string> Lines() { return Editor().WaypointList.Lines(); }
 
     TestServices services;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -15,6 +16,14 @@ class ScriptedUser {
     // Empties the box, if it holds anything, and types the text one character at a time. False when the box
     // took no typing.
     bool Types(TextBox& box, std::string_view text);
+    // Types each text into its box; where there is no text the box is not touched.
+    void Fills(std::initializer_list<TextBox*> boxes, std::initializer_list<std::string_view> texts) {
+        auto text = texts.begin();
+        for (TextBox* box : boxes) {
+            if (!text->empty()) Types(*box, *text);
+            ++text;
+        }
+    }
     bool Presses(Button& button) { return door_.Press(button); }
     bool Picks(OptionButton& option) { return door_.Pick(option); }
     bool Toggles(CheckBox& check) { return door_.Toggle(check); }

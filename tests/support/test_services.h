@@ -101,6 +101,11 @@ struct TestServices {
 
     Platform ForProgram() { return {files, registry, clock, messages, "C:\\Tarvex"}; }
 
+    // The simulator's folder as its setup leaves it in the registry.
+    void Register(const std::string& folder) {
+        registry.Put(0x80000002, "Software\\Microsoft\\Microsoft Games\\Flight Simulator\\7.0", "path",
+                     folder + '\0');
+    }
     // The settings file, the simulator's folders and empty navigation files.
     void PutSimulator() {
         files.Put("C:\\Tarvex\\Tarvex.INI", "C:\\FS2000\r\nN\r\nW\r\nW\r\n");

@@ -41,37 +41,22 @@ class ToolRoad : public EditorRoad {
         SearchFor(text);
         EXPECT_TRUE(user->Presses(Search().AddWaypoint)) << text;
     }
-    void FillArc(const char* start, const char* end, const char* radius, const char* variation) {
-        const std::pair<TextBox*, const char*> boxes[] = {{&Designer().ArcStartText, start},
-                                                          {&Designer().ArcEndText, end},
-                                                          {&Designer().ArcRadiusText, radius},
-                                                          {&Designer().MagVarText, variation}};
-        for (const auto& [box, text] : boxes) {
-            if (*text != '\0') user->Types(*box, text);
-        }
-    }
-    void FillCentre(const char* latDegrees, const char* latMinutes, const char* longDegrees,
-                    const char* longMinutes) {
-        const std::pair<TextBox*, const char*> boxes[] = {{&Centre().DLatCenterText, latDegrees},
-                                                          {&Centre().MLatCenterText, latMinutes},
-                                                          {&Centre().DLongCenterText, longDegrees},
-                                                          {&Centre().MLongCenterText, longMinutes}};
-        for (const auto& [box, text] : boxes) {
-            if (*text != '\0') user->Types(*box, text);
-        }
-    }
-    void FillDerived(const char* course, const char* distance, const char* name) {
-        const std::pair<TextBox*, const char*> boxes[] = {{&Deriving().TrueCourseText, course},
-                                                          {&Deriving().DistText, distance},
-                                                          {&Deriving().WaypointIDText, name}};
-        for (const auto& [box, text] : boxes) {
-            if (*text != '\0') user->Types(*box, text);
-        }
-    }
 
-    // One complaint was shown since the last look, and the focus is there now.
-    void ExpectComplaint(std::string_view prompt, std::string_view focus) {
-        ExpectMessage(prompt, ProgramTitle, focus);
+    using Text = std::string_view;
+    void FillArc(Text start, Text end, Text radius, Text variation) {
+        AddARC& arc = Designer();
+        user->Fills({&arc.ArcStartText, &arc.ArcEndText, &arc.ArcRadiusText, &arc.MagVarText},
+                    {start, end, radius, variation});
+    }
+    void FillCentre(Text latDegrees, Text latMinutes, Text longDegrees, Text longMinutes) {
+        LatLongForm& centre = Centre();
+        user->Fills({&centre.DLatCenterText, &centre.MLatCenterText, &centre.DLongCenterText,
+                     &centre.MLongCenterText},
+                    {latDegrees, latMinutes, longDegrees, longMinutes});
+    }
+    void FillDerived(Text course, Text distance, Text name) {
+        CreateWaypointForm& form = Deriving();
+        user->Fills({&form.TrueCourseText, &form.DistText, &form.WaypointIDText}, {course, distance, name});
     }
 };
 

@@ -16,7 +16,7 @@ struct Screen : Form {
            std::function<void()>& unload)
         : Form(formHost, name, ""), load_(load), unload_(unload) {}
 
-    TextBox Box{*this, "Box", 0, 3};
+    TextBox Box{*this, "Box", 3, 3};
     Button Go{*this, "Go", "Go", 2};
     Frame Group{*this, "Group", ""};
     OptionButton First{Group, "First", "First", 0};
@@ -24,9 +24,9 @@ struct Screen : Form {
     Frame OtherGroup{*this, "OtherGroup", ""};
     OptionButton Lone{OtherGroup, "Lone", "Lone", 4};
     CheckBox Check{*this, "Check", "Check", 5};
-    Label Note{*this, "Note", "&Note"};
 
     Button* WayOut() override { return &Go; }
+    std::vector<Shortcut> Shortcuts() override { return {{ShortcutKey::Delete, &Box, &Go}}; }
     void Form_Load() override {
         if (load_) load_();
     }
@@ -55,6 +55,7 @@ class FormsTest : public ::testing::Test {
 
     FormsTest() {
         host.SetFailureReport([this](const Failure& failure) { reported.push_back(failure.Reason()); });
+        a.slot.Show();
     }
     Names OnScreen() {
         Names names;
@@ -71,25 +72,22 @@ class FormsTest : public ::testing::Test {
     Place b{host, "B"};
     UserDoor door{host};
     Names reported;
+    int acts = 0;  // for the rules of a test to count
 };
 
 TEST_F(FormsTest, FormIsMadeAnewAfterEachUnload) {
-    int loads = 0;
-    a.load = [&] { ++loads; };
-    a.slot.Show();
+    a.load = [&] { ++acts; };
     a->Box.SetText("typed");
     a.slot.Hide();
     a.slot.Show();
     EXPECT_EQ(a->Box.Text(), "typed");
-    EXPECT_EQ(loads, 1);
     a.slot.Unload();
     a.slot.Show();
     EXPECT_EQ(a->Box.Text(), "");
-    EXPECT_EQ(loads, 2);
+    EXPECT_EQ(acts, 1);
 }
 
 TEST_F(FormsTest, FrontFormHasTheFocusAndGivesItBack) {
-    a.slot.Show();
     a->Box.SetFocus();
     b.slot.Show();
     EXPECT_EQ(OnScreen(), (Names{"A", "B"}));
@@ -109,180 +107,180 @@ TEST_F(FormsTest, FrontFormHasTheFocusAndGivesItBack) {
 }
 
 TEST_F(FormsTest, LoadDecidesWhetherTheFormComesUp) {
-    a.slot.Show();
     a->Box.SetFocus();
-    struct Case {
-        const char* what;
-        std::function<void()> load;
-        bool loaded;
-        bool shown;
-    };
-    const Case cases[] = {
-        {"plain", [&] { b->Go.SetFocus(); }, true, true},
-        {"hides itself", [&] { b->Go.SetFocus(), b.slot.Hide(); }, true, false},
-        {"hides, then shows itself", [&] { b.slot.Hide(), b.slot.Show(); }, true, true},
-        {"unloads itself", [&] { b->Go.SetFocus(), b.slot.Unload(); }, false, false},
-        {"fails", [&] { b->Go.SetFocus(), throw Failure(FileNotFound, "fails"); }, false, false},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        b.load = c.load;
+    const auto loads = [&](const std::function<void()>& load, bool loaded, bool shown) {
+        b.load = load;
         host.RunEvent([&] { b.slot.Show(); });
-        EXPECT_EQ(b.slot.IsLoaded(), c.loaded);
-        EXPECT_EQ(OnScreen(), c.shown ? (Names{"A", "B"}) : Names{"A"});
-        EXPECT_EQ(FocusOn().substr(0, 1), c.shown ? "B" : "A");
+        EXPECT_EQ(b.slot.IsLoaded(), loaded);
+        EXPECT_EQ(OnScreen(), shown ? (Names{"A", "B"}) : Names{"A"});
+        EXPECT_EQ(FocusOn().substr(0, 1), shown ? "B" : "A");
         b.slot.Unload();
         EXPECT_EQ(FocusOn(), "A.Box");
-    }
+    };
+    loads([&] { b->Go.SetFocus(); }, true, true);
+    loads([&] { b->Go.SetFocus(), b.slot.Hide(); }, true, false);
+    loads([&] { b.slot.Hide(), b.slot.Show(); }, true, true);
+    loads([&] { b->Go.SetFocus(), b.slot.Unload(); }, false, false);
+    loads([&] { b->Go.SetFocus(), throw Failure(FileNotFound, "fails"); }, false, false);
     EXPECT_EQ(reported, Names{"fails"});
 }
 
-TEST_F(FormsTest, UnloadInsideOwnOperationIsSafeOutsideAnEventToo) {
-    a.load = [&] {
-        a.slot.Unload();
-        a.load = nullptr;
-    };
-    a.slot.Show();
-    EXPECT_FALSE(a.slot.IsLoaded());
-    a.slot.Show();
-    Screen& form = *a;
-    form.Box.OnChange = [&] {
-        a.slot.Unload();
-        form.Note.SetCaption("still there");
-    };
-    form.Box.SetText("x");
-    EXPECT_FALSE(a.slot.IsLoaded());
+TEST_F(FormsTest, UnloadInsideOwnOperationIsSafe) {
+    for (const bool inEvent : {true, false}) {
+        a.slot.Show();
+        Screen& form = *a;
+        form.Box.OnChange = [&] {
+            a.slot.Unload();
+            form.Go.SetCaption("still there");
+        };
+        if (inEvent) {
+            EXPECT_TRUE(door.Type(form.Box, "x"));
+        } else {
+            form.Box.SetText("x");
+        }
+        EXPECT_FALSE(a.slot.IsLoaded());
+        EXPECT_EQ(FocusOn(), "");
+    }
 }
 
 TEST_F(FormsTest, UnloadRulesRunOnceAndMayUnloadOthers) {
-    a.slot.Show();
     b.slot.Show();
-    int unloads = 0;
     a.unload = [&] {
-        ++unloads;
+        ++acts;
         b.slot.Unload();
         a.slot.Unload();
     };
     b.unload = [&] { a.slot.Unload(); };
     EXPECT_TRUE(door.CloseWindow(a.slot));
-    EXPECT_EQ(unloads, 1);
+    EXPECT_EQ(acts, 1);
     EXPECT_TRUE(host.Visible().empty());
     EXPECT_FALSE(door.CloseWindow(a.slot));
 }
 
 TEST_F(FormsTest, StopEndsTheRunFromAnyDepth) {
-    a.slot.Show();
-    bool wentOn = false;
     a->Box.OnChange = [&] {
         try {
             throw ProgramStopped{1, "reason"};
         } catch (const std::exception&) {
-            wentOn = true;
+            ++acts;
         }
     };
     a->Go.OnClick = [&] {
         a->Box.SetText("x");
-        wentOn = true;
+        ++acts;
     };
-    EXPECT_FALSE(host.Stopped());
     door.Press(a->Go);
     ASSERT_TRUE(host.Stopped());
-    EXPECT_EQ(host.Stopped()->exitStatus, 1);
     EXPECT_EQ(host.Stopped()->reason, "reason");
-    EXPECT_FALSE(wentOn);
-    EXPECT_FALSE(door.Type(a->Box, "y"));
-    EXPECT_FALSE(door.CloseWindow(a.slot));
+    EXPECT_EQ(acts, 0);
+    EXPECT_FALSE(door.Type(a->Box, "y") || door.CloseWindow(a.slot));
     EXPECT_TRUE(reported.empty());
 }
 
 TEST_F(FormsTest, FailureEndsItsEventAndIsReported) {
-    a.slot.Show();
     a->Go.OnClick = [] { throw Failure(DiskFull, "full"); };
     a->Check.OnClick = [] { throw std::runtime_error("unexpected"); };
     EXPECT_TRUE(door.Press(a->Go));
     EXPECT_TRUE(door.Toggle(a->Check));
     EXPECT_EQ(reported, (Names{"full", "unexpected"}));
-    EXPECT_TRUE(door.Type(a->Box, "goes on"));
+    EXPECT_TRUE(door.Type(a->Box, "on"));
 }
 
 TEST_F(FormsTest, OptionsOfAFrameExcludeEachOther) {
-    a.slot.Show();
-    Screen& form = *a;
     Names clicks;
-    for (OptionButton* option : {&form.First, &form.Second, &form.Lone}) {
+    for (OptionButton* option : {&a->First, &a->Second, &a->Lone}) {
         option->OnClick = [&clicks, option] { clicks.push_back(option->Name()); };
     }
-    form.First.SelectAtFirst();
-    door.Pick(form.Lone);
-    door.Pick(form.First);
-    door.Pick(form.Second);
-    form.First.Select();
-    EXPECT_TRUE(form.First.Value() && !form.Second.Value() && form.Lone.Value());
+    a->First.SelectAtFirst();
+    for (OptionButton* option : {&a->Lone, &a->First, &a->Second}) door.Pick(*option);
+    a->First.Select();
+    EXPECT_TRUE(a->First.Value() && !a->Second.Value() && a->Lone.Value());
     EXPECT_EQ(clicks, (Names{"Lone", "Second", "First"}));
 }
 
 TEST_F(FormsTest, TabWalksTheUsableStopsInOrderAndRound) {
-    a.slot.Show();
-    Screen& form = *a;
     const auto walk = [&](bool forward) {
-        Names names;
+        std::string names;
         for (int i = 0; i < 4; ++i) {
-            door.Tab(form, forward);
-            names.push_back(host.GetFocus().Current()->Name());
+            door.Tab(*a, forward);
+            names += host.GetFocus().Current()->Name() + " ";
         }
         return names;
     };
-    form.Second.Select();
-    form.Check.SetEnabled(false);
-    form.Lone.SetFocus();
-    EXPECT_EQ(walk(true), (Names{"Second", "Go", "Box", "Lone"}))
-        << "the selected option stands for its frame";
-    EXPECT_EQ(walk(false), (Names{"Box", "Go", "Second", "Lone"}));
-    form.OtherGroup.SetVisible(false);
+    a->Second.Select();
+    a->Check.SetEnabled(false);
+    a->Lone.SetFocus();
+    EXPECT_EQ(walk(true), "Second Go Box Lone ") << "the selected option stands for its frame";
+    EXPECT_EQ(walk(false), "Box Go Second Lone ");
+    a->OtherGroup.SetVisible(false);
     EXPECT_EQ(FocusOn(), "") << "a control out of sight loses the focus";
-    EXPECT_EQ(walk(true), (Names{"Second", "Go", "Box", "Second"}));
+    EXPECT_EQ(walk(true), "Second Go Box Second ");
 }
 
 TEST_F(FormsTest, ControlsOutOfUseTakeNoAct) {
-    a.slot.Show();
     Screen& form = *a;
-    int acts = 0;
-    form.Go.OnClick = form.Check.OnClick = form.Second.OnClick = [&] { ++acts; };
-    form.Box.OnChange = [&] { ++acts; };
+    form.Go.OnClick = form.Check.OnClick = form.Second.OnClick = form.Box.OnChange = [&] { ++acts; };
     form.Go.SetEnabled(false);
     form.Check.SetVisible(false);
     form.Group.SetEnabled(false);
     form.Box.SetLocked(true);
-    EXPECT_FALSE(door.Press(form.Go));
-    EXPECT_FALSE(door.Escape(form));
-    EXPECT_FALSE(door.Toggle(form.Check));
-    EXPECT_FALSE(door.Pick(form.Second));
-    EXPECT_FALSE(door.Type(form.Box, "x"));
+    EXPECT_FALSE(door.Press(form.Go) || door.Escape(form) || door.Toggle(form.Check) ||
+                 door.Pick(form.Second) || door.Type(form.Box, "x"));
     EXPECT_EQ(acts, 0);
-    EXPECT_EQ(form.Box.Text(), "");
     form.Check.SetValue(1);
     EXPECT_EQ(acts, 1) << "operations reach what users can't";
 }
 
-TEST_F(FormsTest, LeavingRuleMayTakeTheTargetAway) {
-    a.slot.Show();
+TEST_F(FormsTest, LeavingRuleMayKeepTheFocusOrTakeTheTargetAway) {
     b.slot.Show();
-    int presses = 0;
     Screen& form = *a;
-    form.Go.OnClick = [&] { ++presses; };
-    b->Box.SetFocus();
-    b->Box.OnLostFocus = [&] { form.Go.SetEnabled(false); };
-    EXPECT_FALSE(door.Press(form.Go)) << "the rule runs across forms";
-    form.Go.SetEnabled(true);
-    b->Box.SetFocus();
-    b->Box.OnLostFocus = [&] { form.Go.SetFocus(); };
-    EXPECT_TRUE(door.Press(form.Go)) << "a rule that leads to the target itself takes nothing away";
-    b->Box.SetFocus();
-    b->Box.OnLostFocus = [&] { throw Failure(NotANumber, "no number"); };
-    EXPECT_FALSE(door.Press(form.Go));
+    form.Go.OnClick = [&] { ++acts; };
+    form.Second.OnLostFocus = [] { FAIL() << "it never had the focus"; };
+    const auto press = [&](const std::function<void()>& rule) {
+        form.Go.SetEnabled(true);
+        b->Box.OnLostFocus = nullptr;
+        b->Box.SetFocus();
+        b->Box.OnLostFocus = rule;
+        return door.Press(form.Go);
+    };
+    EXPECT_FALSE(press([&] { b->Box.SetFocus(); })) << "a complaint ends the press";
+    EXPECT_FALSE(door.MoveFocus(form.Second));
     EXPECT_EQ(FocusOn(), "B.Box");
-    EXPECT_EQ(presses, 1);
+    EXPECT_FALSE(press([&] { form.Go.SetEnabled(false); }));
+    EXPECT_TRUE(press([&] { form.Go.SetFocus(); })) << "a rule that leads to the target takes nothing away";
+    EXPECT_FALSE(press([&] { throw Failure(NotANumber, "no number"); }));
+    EXPECT_EQ(FocusOn(), "B.Box");
+    EXPECT_EQ(acts, 1);
     EXPECT_EQ(reported, Names{"no number"});
+}
+
+TEST_F(FormsTest, ShortcutPressesItsButtonOnlyWhereItBelongs) {
+    a->Box.SetFocus();
+    a->Go.OnClick = [&] { ++acts; };
+    EXPECT_TRUE(door.Key(*a, ShortcutKey::Delete));
+    EXPECT_EQ(acts, 1);
+    EXPECT_EQ(FocusOn(), "A.Box") << "the focus stays where the key was pressed";
+    EXPECT_FALSE(door.Key(*a, ShortcutKey::CtrlS));
+    a->Go.SetEnabled(false);
+    EXPECT_TRUE(door.Key(*a, ShortcutKey::Delete)) << "no other use of the key either";
+    EXPECT_EQ(acts, 1);
+    a->Go.SetEnabled(true);
+    a->Go.OnClick = [&] { a->Check.SetFocus(); };
+    EXPECT_TRUE(door.Key(*a, ShortcutKey::Delete));
+    EXPECT_EQ(FocusOn(), "A.Check");
+    EXPECT_FALSE(door.Key(*a, ShortcutKey::Delete));
+}
+
+TEST_F(FormsTest, TypingIsCutAtTheLimitAndTakingAwayIsFree) {
+    const auto typed = [&](const char* text) {
+        door.Type(a->Box, text);
+        return a->Box.Text();
+    };
+    EXPECT_EQ(typed("12345"), "123");
+    EXPECT_EQ(typed("1x23"), "123");
+    a->Box.SetText("ABCDEFGHIJ");
+    EXPECT_EQ(typed("ABCDEFGHI"), "ABCDEFGHI");
+    EXPECT_EQ(typed("ABCDEFGHIx"), "ABCDEFGHI");
 }
 
 }  // namespace

@@ -64,33 +64,23 @@ TEST_F(ListsTest, FolderListShowsTheWayDownAndWhatLiesBelow) {
     FolderList& list = Form().Dir;
     EXPECT_EQ(list.Path(), "C:\\Games\\FS");
     EXPECT_EQ(Rows(), (Names{"C:\\", "Games", "FS", "A", "b", "c"}));
-    EXPECT_EQ(list.List(-3), "C:\\");
-    EXPECT_EQ(list.List(-2), "C:\\Games");
-    EXPECT_EQ(list.List(-1), "C:\\Games\\FS");
-    EXPECT_EQ(list.List(2), "C:\\Games\\FS\\c");
-    EXPECT_EQ(NumberOf([&] { list.List(-4); }), BadArgument);
-    EXPECT_EQ(NumberOf([&] { list.List(3); }), BadArgument);
+    EXPECT_EQ(list.List(-3) + list.List(-1) + list.List(2), "C:\\C:\\Games\\FSC:\\Games\\FS\\c");
+    for (const int index : {-4, 3}) EXPECT_EQ(NumberOf([&] { list.List(index); }), BadArgument);
 }
 
 TEST_F(ListsTest, ClickChoosesAndDoubleClickWalks) {
     FolderList& list = Form().Dir;
-    int clicks = 0;
-    int changes = 0;
-    list.OnClick = [&] { ++clicks; };
-    list.OnChange = [&] { ++changes; };
-
+    std::string events;
+    list.OnClick = [&] { events += "click "; };
+    list.OnChange = [&] { events += list.Path() + " "; };
     EXPECT_TRUE(door.PickFolder(list, 0));
     EXPECT_EQ(list.ListIndex(), 0);
-    EXPECT_EQ(list.Path(), "C:\\Games\\FS");
     EXPECT_TRUE(door.OpenFolder(list, 0));
-    EXPECT_EQ(list.Path(), "C:\\Games\\FS\\A");
     EXPECT_EQ(list.ListIndex(), FolderList::OpenFolder);
     EXPECT_TRUE(door.OpenFolder(list, list.FirstIndex()));
-    EXPECT_EQ(list.Path(), "C:\\") << "the root itself, not the drive's current folder";
     EXPECT_EQ(Rows(), (Names{"C:\\", "Games"}));
     EXPECT_TRUE(door.OpenFolder(list, FolderList::OpenFolder));
-    EXPECT_EQ(clicks, 1);
-    EXPECT_EQ(changes, 2);
+    EXPECT_EQ(events, "click C:\\Games\\FS\\A C:\\ ") << "the root itself, not the drive's current folder";
 }
 
 TEST_F(ListsTest, PathOfADriveIsItsCurrentFolder) {
@@ -98,23 +88,21 @@ TEST_F(ListsTest, PathOfADriveIsItsCurrentFolder) {
     list.SetPath("D:\\");
     EXPECT_EQ(list.Path(), "D:\\");
     list.SetPath("C:");
-    EXPECT_EQ(list.Path(), "C:\\Games\\FS");
-    EXPECT_EQ(NumberOf([&] { list.SetPath("C:\\gone"); }), PathNotFound);
-    EXPECT_EQ(NumberOf([&] { list.SetPath("E:\\"); }), PathNotFound);
+    for (const char* missing : {"C:\\gone", "E:\\"}) {
+        EXPECT_EQ(NumberOf([&] { list.SetPath(missing); }), PathNotFound);
+    }
     EXPECT_EQ(list.Path(), "C:\\Games\\FS");
     EXPECT_EQ(list.ListCount(), 3);
 }
 
 TEST_F(ListsTest, DriveListTakesKnownDrivesInAnyForm) {
     DriveList& list = Form().Drive;
-    int changes = 0;
-    list.OnChange = [&] { ++changes; };
+    std::string changes;
+    list.OnChange = [&] { changes += list.Drive(); };
     EXPECT_EQ(list.Drive(), "C:\\");
     for (const char* same : {"c:", "C:\\", "c:\\fs2000"}) list.SetDrive(same);
-    EXPECT_EQ(changes, 0);
     list.SetDrive("d:\\x");
-    EXPECT_EQ(list.Drive(), "D:\\");
-    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(changes, "D:\\");
     for (const char* unknown : {"E:\\", "", "\\", "C"}) {
         EXPECT_EQ(NumberOf([&] { list.SetDrive(unknown); }), PathNotFound) << unknown;
     }
@@ -141,45 +129,31 @@ TEST_F(ListsTest, RootWithoutDrivesServesAsOne) {
     EXPECT_EQ(Form().Dir.List(0), "\\home\\pilot\\fs");
 }
 
-TEST_F(ListsTest, FileListNarrowsByTheBeginningOfNames) {
+TEST_F(ListsTest, FileListNarrowsByTheBeginningOfNamesAndTellsTheNameClicked) {
     for (const char* name : {"KXYZ-B.wsd", "kxyz-a.wsd", "K*-C.wsd", "KABC-A.wsd", "readme"}) {
         files.Put("C:\\Sids\\" + std::string(name), "");
     }
     files.PutFolder("C:\\Sids\\folder");
+    const Names all{"K*-C.wsd", "KABC-A.wsd", "kxyz-a.wsd", "KXYZ-B.wsd", "readme"};
     FileList& list = Form().File;
+    Names clicked;
+    list.OnClick = [&] { clicked.push_back(list.FileName()); };
     list.SetPath("C:\\Sids\\");
-    EXPECT_EQ(list.Lines(), (Names{"K*-C.wsd", "KABC-A.wsd", "kxyz-a.wsd", "KXYZ-B.wsd", "readme"}));
+    EXPECT_EQ(list.Lines(), all);
+    EXPECT_TRUE(door.PickFile(list, 3));
     const std::pair<const char*, Names> patterns[] = {
-        {"kXy*", {"kxyz-a.wsd", "KXYZ-B.wsd"}},
-        {"K**", {"K*-C.wsd"}},
-        {"K?*", {}},
-        {"Q*", {}},
-        {"*", {"K*-C.wsd", "KABC-A.wsd", "kxyz-a.wsd", "KXYZ-B.wsd", "readme"}},
-    };
+        {"K**", {all[0]}}, {"K?*", {}}, {"Q*", {}}, {"*", all}, {"kXy*", {all[2], all[3]}}};
     for (const auto& [pattern, lines] : patterns) {
         list.SetPattern(pattern);
         EXPECT_EQ(list.Lines(), lines) << pattern;
-        EXPECT_EQ(list.ListIndex(), -1);
+        EXPECT_EQ(list.FileName(), "");
     }
+    EXPECT_TRUE(door.PickFile(list, 0));
+    EXPECT_EQ(clicked, (Names{"KXYZ-B.wsd", "kxyz-a.wsd"}));
+    EXPECT_EQ(NumberOf([&] { list.SetListIndex(2); }), BadArgument);
     EXPECT_EQ(NumberOf([&] { list.SetPath("C:\\gone\\"); }), PathNotFound);
     EXPECT_EQ(list.Path(), "C:\\Sids\\");
-    EXPECT_EQ(list.Lines().size(), 5u);
-}
-
-TEST_F(ListsTest, FileListTellsTheNameClicked) {
-    files.Put("C:\\Sids\\KABC-A.wsd", "");
-    files.Put("C:\\Sids\\KXYZ-B.wsd", "");
-    FileList& list = Form().File;
-    list.SetPath("C:\\Sids");
-    Names clicked;
-    list.OnClick = [&] { clicked.push_back(list.FileName()); };
-    EXPECT_EQ(list.FileName(), "");
-    EXPECT_TRUE(door.PickFile(list, 1));
-    list.SetPattern("KA*");
-    EXPECT_EQ(list.FileName(), "");
-    EXPECT_TRUE(door.PickFile(list, 0));
-    EXPECT_EQ(clicked, (Names{"KXYZ-B.wsd", "KABC-A.wsd"}));
-    EXPECT_EQ(NumberOf([&] { list.SetListIndex(1); }), BadArgument);
+    EXPECT_EQ(list.Lines().size(), 2U);
 }
 
 TEST_F(ListsTest, ListBoxKeepsTheSelectionOnItsLine) {
@@ -195,17 +169,13 @@ TEST_F(ListsTest, ListBoxKeepsTheSelectionOnItsLine) {
     EXPECT_EQ(box.Text(), "two");
     box.RemoveItem(0);
     box.RemoveItem(2);
-    EXPECT_EQ(box.ListIndex(), 1);
     EXPECT_EQ(box.Text(), "two");
     box.RemoveItem(1);
     EXPECT_EQ(box.ListIndex(), ListBox::NoSelection);
-    EXPECT_EQ(box.Text(), "");
     EXPECT_EQ(box.Lines(), Names{"one"});
     box.SetListIndex(0);
     box.Clear();
-    EXPECT_EQ(box.ListIndex(), ListBox::NoSelection);
-    EXPECT_EQ(clicks, 2);
-    box.SetListIndex(ListBox::NoSelection);
+    EXPECT_EQ(box.Text(), "");
     EXPECT_EQ(clicks, 2);
     for (const int index : {-2, 0}) {
         EXPECT_EQ(NumberOf([&] { box.SetListIndex(index); }), BadArgument) << index;

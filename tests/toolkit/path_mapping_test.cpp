@@ -34,21 +34,19 @@ class FakeFolders : public FolderView {
     std::string shut_;
 };
 
-const std::set<std::string> Machine{
-    "/home",
-    "/home/Pilot",
-    "/home/Pilot/FS",
-    "/home/Pilot/fs",
-    "/home/Pilot/fs/a",
-    "/home/Pilot/FS/b",
-    "rel",
-    "rel/X",
-    "/p/dosdevices/c:",
-    "/p/dosdevices/c:/Games",
-    "/p/dosdevices/d:",
-    "/p/dosdevices/c::",
-    "/p/dosdevices/com1",
-};
+const std::set<std::string> Machine{"/home",
+                                    "/home/Pilot",
+                                    "/home/Pilot/FS",
+                                    "/home/Pilot/fs",
+                                    "/home/Pilot/fs/a",
+                                    "/home/Pilot/FS/b",
+                                    "rel",
+                                    "rel/X",
+                                    "/p/dosdevices/c:",
+                                    "/p/dosdevices/d:",
+                                    "/p/dosdevices/c::",
+                                    "/p/dosdevices/c:/Games",
+                                    "/p/dosdevices/com1"};
 
 TEST(PathMapping, SpellsPathsAsTheSystemHasThem) {
     struct Case {

@@ -1,7 +1,6 @@
 #include "toolkit/wine_registry.h"
 
 #include <gtest/gtest.h>
-#include <random>
 
 namespace tarvex {
 namespace {
@@ -68,25 +67,10 @@ TEST(WineRegistry, GivesEveryKindOfValue) {
 
 TEST(WineRegistry, FindsWholeKeysOfWholeFilesOnly) {
     EXPECT_TRUE(FindWineKey(File, "Software\\Behind"));
-    EXPECT_FALSE(FindWineKey(File, "Software\\Maker"));
-    EXPECT_FALSE(FindWineKey(File, "Software\\Maker\\Flight [2000]\\7"));
-    EXPECT_FALSE(FindWineKey(File, ""));
-    EXPECT_FALSE(FindWineKey(File.substr(1), Key));
-    EXPECT_FALSE(FindWineKey("", Key));
-}
-
-TEST(WineRegistry, TakesAnyRubbish) {
-    for (std::size_t size = 0; size < File.size(); ++size) FindWineKey(File.substr(0, size), Key);
-
-    std::mt19937 random(1);
-    const std::string_view alphabet = "[]\"\\=@x0dfhexstr(1):,#\n\r\xFF";
-    for (int round = 0; round < 2000; ++round) {
-        std::string text(File);
-        for (int change = 0; change < 20; ++change) {
-            text[23 + random() % (text.size() - 23)] = alphabet[random() % alphabet.size()];
-        }
-        FindWineKey(text, Key);
+    for (const char* none : {"Software\\Maker", "Software\\Maker\\Flight [2000]\\7", ""}) {
+        EXPECT_FALSE(FindWineKey(File, none)) << none;
     }
+    for (const auto text : {File.substr(1), std::string_view()}) EXPECT_FALSE(FindWineKey(text, Key));
 }
 
 }  // namespace
