@@ -119,15 +119,5 @@ TEST_F(Roads, BandsKeepTheirOrderThroughEverySave) {
     ExpectSilence();
 }
 
-TEST_F(Roads, EmptiedProcedureIsSavedEmpty) {
-    ModifyProcedure& editor = OpenDP("KXYZ-DEMO1.wsd", "W,A,,0,1,1,0,0,0,0,0,\r\nW,B,,0,1,1,0,0,0,0,0,\r\n");
-    while (editor.WaypointList.ListCount() > 0) {
-        user->PicksLine(editor.WaypointList, 0);
-        user->Presses(editor.DeleteWaypointCommand);
-    }
-    EXPECT_EQ(Save("KXYZ-DEMO1.wsd"), Saved(""));
-    EXPECT_TRUE(OpenDP("KXYZ-DEMO1.wsd").WaypointList.Lines().empty());
-}
-
 }  // namespace
 }  // namespace tarvex::testing

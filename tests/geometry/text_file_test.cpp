@@ -15,26 +15,17 @@ std::vector<std::string> AllItems(std::string_view text) {
 }
 
 TEST(TextReaderTest, Items) {
-    const std::pair<std::string_view, std::vector<std::string>> cases[] = {
-        {"", {}},
-        {"\"\"", {""}},
-        {"  ", {""}},
-        {",", {"", ""}},
-        {"a,", {"a", ""}},
-        {"a,  ", {"a", ""}},
-        {"a,\r\n", {"a", ""}},
-        {"\"a\"x,", {"a", ""}},
-        {"a \"b\",c", {"a \"b\"", "c"}},
-        {"\x80\xE9\x01", {"\x80\xE9\x01"}},
-        {"a,b\r\nc\r\n", {"a", "b", "c"}},
-        {" \t a b  , c\t ", {"a b", "c\t"}},
-        {"a,\r\n\r\nb", {"a", "", "", "b"}},
-        {"a\rb\nc\n\rd", {"a", "b", "c", "", "d"}},
-        {"\"never closed,\r\n", {"never closed,\r\n"}},
-        {"; x, y", {"; x", "y"}},
-        {" \"a, \r\n\"cut\"x\" , b", {"a, \r\n", "b"}},
-    };
-    for (const auto& [text, items] : cases) EXPECT_EQ(AllItems(text), items) << text;
+    using Items = std::vector<std::string>;
+    EXPECT_EQ(AllItems(""), Items{});
+    EXPECT_EQ(AllItems(","), (Items{"", ""}));
+    for (const char* one : {"\"\"", "  "}) EXPECT_EQ(AllItems(one), Items{""}) << one;
+    for (const char* two : {"a,", "a,  ", "a,\r\n", "\"a\"x,"})
+        EXPECT_EQ(AllItems(two), (Items{"a", ""})) << two;
+    EXPECT_EQ(AllItems("a \"b\",\x80\xE9\x01"), (Items{"a \"b\"", "\x80\xE9\x01"}));
+    EXPECT_EQ(AllItems(" \t a b  , c\t \r\n; x, y\r\n"), (Items{"a b", "c\t", "; x", "y"}));
+    EXPECT_EQ(AllItems("a\rb\nc\n\rd,\r\n\r\ne"), (Items{"a", "b", "c", "", "d", "", "", "e"}));
+    EXPECT_EQ(AllItems("\"never closed,\r\n"), Items{"never closed,\r\n"});
+    EXPECT_EQ(AllItems(" \"a, \r\n\"cut\"x\" , b"), (Items{"a, \r\n", "b"}));
 }
 
 TEST(TextReaderTest, LinesAndTheEnd) {

@@ -52,8 +52,7 @@ struct World {
     void Start() { program->Start(); }
     void Register() {
         services.files.Remove(Ini);
-        services.registry.Put(0x80000002, "Software\\Microsoft\\Microsoft Games\\Flight Simulator\\7.0",
-                              "path", std::string("C:\\FS2000\0", 10));
+        services.Register("C:\\FS2000");
     }
     void AskForFolder() {
         services.files.Remove(Ini);

@@ -20,6 +20,13 @@ class FolderScreenTest : public ::testing::Test {
     }
 
     FindFS2000Form& Screen() { return *program.findFS2000Form.Get(); }
+    // The screen comes up while a procedure, or the picker, is open.
+    void StartWithTheScreenBeside(Button InitialLoad::*action) {
+        services.Register("C:\\FS2000");
+        program.Start();
+        program.door.Press(program.initialLoad.Get()->*action);
+        program.host.RunEvent([&] { program.AskForSimulatorFolder(); });
+    }
     int Row(const std::string& path) {
         FolderList& list = Screen().Dir1;
         for (int row = list.FirstIndex(); row < list.ListCount(); ++row) {
@@ -148,24 +155,23 @@ TEST_F(FolderScreenTest, StaysWhileTheSettingsCannotBeWritten) {
     EXPECT_EQ(program.host.Stopped()->exitStatus, 0);
 }
 
-TEST_F(FolderScreenTest, ClosedBesideTheEditorLeavesTheEditor) {
-    services.Register("C:\\FS2000");
-    program.Start();
-    program.door.Press(program.initialLoad.Get()->CreateDP);
-    program.host.RunEvent([&] { program.AskForSimulatorFolder(); });
+TEST_F(FolderScreenTest, ClosedItLeavesTheEditorOrBringsTheMenuBack) {
+    StartWithTheScreenBeside(&InitialLoad::CreateDP);
     EXPECT_EQ(Forms(), "ModifyProcedureFindFS2000Form");
     Click("C:\\Games");
     program.door.CloseWindow(program.findFS2000Form);
     EXPECT_EQ(Forms(), "ModifyProcedure");
     EXPECT_EQ(program.state.SimulatorPath, "C:\\FS2000");
+    program.door.Press(program.modifyProcedure.Get()->OopsCommand);
+    program.door.Press(program.initialLoad.Get()->ModifyDP);
+    program.host.RunEvent([&] { program.AskForSimulatorFolder(); });
+    program.door.CloseWindow(program.findFS2000Form);
+    EXPECT_EQ(Forms(), "PickFileInitialLoad");
 }
 
-TEST_F(FolderScreenTest, ChosenBesideTheEditorLeadsBackToItsProcedure) {
+TEST_F(FolderScreenTest, ChosenFolderLeadsBackToTheProcedure) {
     services.files.PutFolder("C:\\Games\\Giostam\\navdata\\Sids");
-    services.Register("C:\\FS2000");
-    program.Start();
-    program.door.Press(program.initialLoad.Get()->CreateDP);
-    program.host.RunEvent([&] { program.AskForSimulatorFolder(); });
+    StartWithTheScreenBeside(&InitialLoad::CreateDP);
     Click("C:\\Games");
     Done();
     for (Button InitialLoad::*action : {&InitialLoad::ModifySTAR, &InitialLoad::CreateIAP}) {
@@ -174,15 +180,6 @@ TEST_F(FolderScreenTest, ChosenBesideTheEditorLeadsBackToItsProcedure) {
         EXPECT_EQ(program.state.ProcedureMode, "E");
         EXPECT_EQ(program.state.ProcedureFolder, "C:\\Games\\Giostam\\navdata\\Sids\\");
     }
-}
-
-TEST_F(FolderScreenTest, ClosedBesideThePickerBringsTheMenuBack) {
-    services.Register("C:\\FS2000");
-    program.Start();
-    program.door.Press(program.initialLoad.Get()->ModifyDP);
-    program.host.RunEvent([&] { program.AskForSimulatorFolder(); });
-    program.door.CloseWindow(program.findFS2000Form);
-    EXPECT_EQ(Forms(), "PickFileInitialLoad");
 }
 
 }  // namespace

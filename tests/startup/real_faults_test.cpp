@@ -48,8 +48,7 @@ class RealFaults : public ::testing::Test {
         folder.Put(Star, star);
     }
     void Register() {
-        services.registry.Put(0x80000002, "Software\\Microsoft\\Microsoft Games\\Flight Simulator\\7.0",
-                              "path", folder.Path("FS2000") + '\0');
+        services.Register(folder.Path("FS2000"));
         std::filesystem::remove(folder.On("Tarvex/Tarvex.INI"));
     }
     void Start() {
@@ -140,8 +139,7 @@ TEST_F(RealFaults, ReadOnlyDiskIsReadAndKept) {
                          "\\Giostam\\navdata\\Stars\\KXYZ-SOUND.wst: on a read-only medium");
     EXPECT_EQ(folder.Content(Star), repairable);
 
-    services.registry.Put(0x80000002, "Software\\Microsoft\\Microsoft Games\\Flight Simulator\\7.0", "path",
-                          "");
+    services.Register("");
     Start();
     EXPECT_EQ(End(), "FindFS2000Form");
     program->door.Press(program->findFS2000Form.Get()->FindDoneCommand);

@@ -188,26 +188,27 @@ void EditorWatch::CheckFile(const std::string& path, Findings& findings) {
 void EditorWatch::CheckControls(const ModifyProcedure& editor, Findings& findings) {
     const bool selected = editor.WaypointList.ListIndex() != ListBox::NoSelection;
     everSelected_ = everSelected_ || selected;
-    findings.Require(editor.AddWaypointCommand.Enabled() == !selected, "Add");
-    findings.Require(editor.ModifyWaypointCommand.Enabled() == selected, "Modify");
-    findings.Require(editor.DeleteWaypointCommand.Enabled() == selected, "Delete");
-    findings.Require(editor.MoveUp.Enabled() == everSelected_, "Move Up");
-    findings.Require(editor.MoveDown.Enabled() == everSelected_, "Move Down");
-    findings.Require(editor.ClearDataCommand.Enabled() && editor.SaveCommand.Enabled(), "Clear or Save");
+    const bool buttons = editor.AddWaypointCommand.Enabled() == !selected &&
+                         editor.ModifyWaypointCommand.Enabled() == selected &&
+                         editor.DeleteWaypointCommand.Enabled() == selected &&
+                         editor.MoveUp.Enabled() == everSelected_ &&
+                         editor.MoveDown.Enabled() == everSelected_ && editor.ClearDataCommand.Enabled() &&
+                         editor.SaveCommand.Enabled();
+    findings.Require(buttons, "a button is in use that should not be, or the reverse");
 
     const bool band = editor.AtAboveAtBelowOption.Value();
-    findings.Require(editor.Alt2Text.Enabled() == band, "upper altitude enabled");
-    findings.Require(editor.Alt2Label.Enabled() == band, "label of the upper altitude enabled");
-    findings.Require(editor.Alt2Text.BackColor() == (band ? White : Grey), "upper altitude's colour");
+    findings.Require(editor.Alt2Text.Enabled() == band && editor.Alt2Label.Enabled() == band &&
+                         editor.Alt2Text.BackColor() == (band ? White : Grey),
+                     "upper altitude");
     const auto chosen = [](std::initializer_list<const OptionButton*> options) {
         return std::count_if(options.begin(), options.end(),
                              [](const auto* option) { return option->Value(); });
     };
     findings.Require(chosen({&editor.NoRestrictionOption, &editor.AtOption, &editor.AtBelowOption,
-                             &editor.AtAboveOption, &editor.AtAboveAtBelowOption}) == 1,
-                     "restrictions");
-    findings.Require(chosen({&editor.NLatOption, &editor.SLatOption}) == 1, "latitudes");
-    findings.Require(chosen({&editor.ELongOption, &editor.WLongOption}) == 1, "longitudes");
+                             &editor.AtAboveOption, &editor.AtAboveAtBelowOption}) == 1 &&
+                         chosen({&editor.NLatOption, &editor.SLatOption}) == 1 &&
+                         chosen({&editor.ELongOption, &editor.WLongOption}) == 1,
+                     "none or two options of a group");
     for (const TextBox* box : {&editor.FixNameText, &editor.NAVIDText, &editor.FreqText}) {
         findings.Require(selected || box->Enabled(), "a name box stays closed");
         findings.Require(box->BackColor() == (box->Enabled() ? White : Grey), "a name box's colour");

@@ -75,18 +75,6 @@ class FormsTest : public ::testing::Test {
     int acts = 0;  // for the rules of a test to count
 };
 
-TEST_F(FormsTest, FormIsMadeAnewAfterEachUnload) {
-    a.load = [&] { ++acts; };
-    a->Box.SetText("typed");
-    a.slot.Hide();
-    a.slot.Show();
-    EXPECT_EQ(a->Box.Text(), "typed");
-    a.slot.Unload();
-    a.slot.Show();
-    EXPECT_EQ(a->Box.Text(), "");
-    EXPECT_EQ(acts, 1);
-}
-
 TEST_F(FormsTest, FrontFormHasTheFocusAndGivesItBack) {
     a->Box.SetFocus();
     b.slot.Show();

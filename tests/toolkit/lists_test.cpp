@@ -109,15 +109,6 @@ TEST_F(ListsTest, DriveListTakesKnownDrivesInAnyForm) {
     EXPECT_EQ(list.Drive(), "D:\\");
 }
 
-TEST_F(ListsTest, DriveThatCannotBeEnteredIsNotTaken) {
-    Lists& form = Form();
-    form.Drive.OnChange = [&] { form.Dir.SetPath(form.Drive.Drive()); };
-    files.RemoveFolder("D:");
-    EXPECT_EQ(NumberOf([&] { form.Drive.SetDrive("D:"); }), PathNotFound);
-    EXPECT_EQ(form.Drive.Drive(), "C:\\");
-    EXPECT_EQ(form.Dir.Path(), "C:\\Games\\FS");
-}
-
 TEST_F(ListsTest, RootWithoutDrivesServesAsOne) {
     files.SetDrives({"C:\\", "\\"});
     files.SetCurrentFolder("\\home\\pilot");

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cerrno>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <set>
+#include <sstream>
 
 #include "toolkit/system_error.h"
 
@@ -34,19 +36,12 @@ class FakeFolders : public FolderView {
     std::string shut_;
 };
 
-const std::set<std::string> Machine{"/home",
-                                    "/home/Pilot",
-                                    "/home/Pilot/FS",
-                                    "/home/Pilot/fs",
-                                    "/home/Pilot/fs/a",
-                                    "/home/Pilot/FS/b",
-                                    "rel",
-                                    "rel/X",
-                                    "/p/dosdevices/c:",
-                                    "/p/dosdevices/d:",
-                                    "/p/dosdevices/c::",
-                                    "/p/dosdevices/c:/Games",
-                                    "/p/dosdevices/com1"};
+std::set<std::string> Machine() {
+    std::istringstream paths(
+        "/home /home/Pilot /home/Pilot/FS /home/Pilot/fs /home/Pilot/fs/a /home/Pilot/FS/b rel rel/X "
+        "/p/dosdevices/c: /p/dosdevices/c:/Games /p/dosdevices/d: /p/dosdevices/c:: /p/dosdevices/com1");
+    return {std::istream_iterator<std::string>(paths), {}};
+}
 
 TEST(PathMapping, SpellsPathsAsTheSystemHasThem) {
     struct Case {
@@ -73,7 +68,7 @@ TEST(PathMapping, SpellsPathsAsTheSystemHasThem) {
         {"E:\\Games", "", false},
         {std::string_view("\\ho\0me", 6), "", false},
     };
-    const FakeFolders folders(Machine);
+    const FakeFolders folders(Machine());
     const PathMapping mapping(folders, "/p");
     for (const Case& c : cases) {
         const MappedPath mapped = mapping.ToSystem(c.path);
@@ -84,7 +79,7 @@ TEST(PathMapping, SpellsPathsAsTheSystemHasThem) {
 }
 
 TEST(PathMapping, WithoutAPrefixNoDriveIsThere) {
-    const FakeFolders folders(Machine);
+    const FakeFolders folders(Machine());
     const PathMapping mapping(folders, "");
     EXPECT_FALSE(mapping.ToSystem("C:\\Games").folderFound);
     EXPECT_TRUE(mapping.Drives().empty());
