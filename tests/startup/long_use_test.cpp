@@ -105,11 +105,11 @@ class Machine {
 
     void TidyUp() {
         for (const char* kind : {"Sids", "Stars", "Approaches"}) {
-            const std::string folder = std::string("C:\\FS2000\\Giostam\\navdata\\") + kind;
+            const std::string folder = std::string("C:\\FS2000\\Giostam\\navdata\\") + kind + "\\";
             services.files.PutFolder(folder);
             const auto names = services.files.Files(folder);
             if (names.size() < 50) continue;
-            for (const auto& name : names) services.files.Remove(folder + "\\" + name);
+            for (const auto& name : names) services.files.Remove(folder + name);
             tidied = true;
         }
         for (const auto& [name, text] : Stored) {

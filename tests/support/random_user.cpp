@@ -74,7 +74,7 @@ Control* RandomUser::ChooseControl(Form& form) {
 }
 
 std::string RandomUser::ChooseText(const TextBox& box) {
-    const std::string text = box.Text();
+    const std::string& text = box.Text();
     switch (chance_.Below(10)) {
         case 0:
             return "";
