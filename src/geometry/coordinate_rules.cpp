@@ -10,8 +10,8 @@ constexpr std::string_view SixtyMinutes = "Minutes must be less than 60.\r\n    
 
 }  // namespace
 
-std::string_view NumberComplaint(std::string_view text) {
-    return text.empty() || IsNumberText(text) ? std::string_view() : EnterOnlyNumbers;
+std::string_view NumberComplaint(std::string_view text, std::string_view words) {
+    return text.empty() || IsNumberText(text) ? std::string_view() : words;
 }
 
 std::string_view DegreesComplaint(const CoordinateAxis& axis, std::string_view degrees) {

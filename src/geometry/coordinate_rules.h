@@ -6,8 +6,9 @@ namespace tarvex {
 
 inline constexpr std::string_view EnterOnlyNumbers = "Enter only numbers please.";
 
-// What is wrong with a text that has to be a number; empty when it is accepted, as the empty text is.
-std::string_view NumberComplaint(std::string_view text);
+// What is wrong with a text that has to be a number, in the screen's words; empty when it is accepted, as the
+// empty text is.
+std::string_view NumberComplaint(std::string_view text, std::string_view words = EnterOnlyNumbers);
 
 // What tells the entry of a latitude from that of a longitude: the most whole degrees that it can have, and
 // the words of its complaints. Degrees and minutes are magnitudes; a hemisphere option carries the sign.

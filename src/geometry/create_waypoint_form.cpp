@@ -5,6 +5,7 @@
 #include <string_view>
 #include <utility>
 
+#include "geometry/coordinate_rules.h"
 #include "geometry/rhumb_line_step.h"
 #include "geometry/text_rules.h"
 #include "startup/program.h"
@@ -24,13 +25,9 @@ constexpr std::string_view NoStartPoint = "You must pick a starting point.\r\n  
 constexpr std::string_view ReachesPole =
     "This distance reaches or passes a pole.\r\n                  Please correct.";
 
-std::string_view NumberComplaint(std::string_view text) {
-    return text.empty() || IsNumberText(text) ? std::string_view() : NumbersOnly;
-}
-
 std::string_view CourseComplaint(std::string_view text) {
     const bool tooLarge = IsNumberText(text) && StrictNumber(text) > 360;
-    return tooLarge ? CourseTooLarge : NumberComplaint(text);
+    return tooLarge ? CourseTooLarge : NumberComplaint(text, NumbersOnly);
 }
 
 }  // namespace
@@ -71,7 +68,7 @@ void CreateWaypointForm::TrueCourseText_LostFocus() {
 }
 
 void CreateWaypointForm::DistText_LostFocus() {
-    program_.Complain(NumberComplaint(DistText.Text()), DistText);
+    program_.Complain(NumberComplaint(DistText.Text(), NumbersOnly), DistText);
 }
 
 void CreateWaypointForm::TransferCommand_Click() {

@@ -4,15 +4,11 @@
 #include <utility>
 
 #include "toolkit/failure.h"
+#include "toolkit/folding.h"
 
 namespace tarvex {
 
 namespace {
-
-// Lower case for finding names: the letters A to Z. All other bytes stand for themselves.
-char Folded(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
-}
 
 bool FoldedLess(const std::string& a, const std::string& b) {
     const auto same = [](char x, char y) { return Folded(x) == Folded(y); };
@@ -20,12 +16,6 @@ bool FoldedLess(const std::string& a, const std::string& b) {
     if (x == a.end() && y == b.end()) return a < b;
     if (x == a.end() || y == b.end()) return x == a.end();
     return static_cast<unsigned char>(Folded(*x)) < static_cast<unsigned char>(Folded(*y));
-}
-
-bool BeginsFolded(std::string_view text, std::string_view beginning) {
-    return text.size() >= beginning.size() &&
-           std::equal(beginning.begin(), beginning.end(), text.begin(),
-                      [](char x, char y) { return Folded(x) == Folded(y); });
 }
 
 bool IsRoot(std::string_view path) {

@@ -2,28 +2,16 @@
 
 #include <algorithm>
 
+#include "toolkit/folding.h"
+
 namespace tarvex {
 
 namespace {
 
 constexpr std::string_view Separators = "\\/";
 
-char Folded(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
-}
-
-std::string AllFolded(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(), Folded);
-    return text;
-}
-
 bool IsLetter(char c) {
     return Folded(c) >= 'a' && Folded(c) <= 'z';
-}
-
-bool EqualFolded(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](char x, char y) { return Folded(x) == Folded(y); });
 }
 
 bool HasDriveLetter(std::string_view path) {
@@ -55,7 +43,7 @@ std::string PathMapping::Stored(const std::string& folder, const std::string& pa
         if (EqualFolded(name, part) && (stored.empty() || name < stored)) stored = std::move(name);
     }
     // A folder may be open to those who know what is in it, as the one that holds the users' own.
-    if (stored.empty() && view_.Has(folder + AllFolded(part))) stored = AllFolded(part);
+    if (stored.empty() && view_.Has(folder + Folded(part))) stored = Folded(part);
     found = !stored.empty();
     return found ? stored : part;
 }

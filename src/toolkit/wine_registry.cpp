@@ -4,19 +4,13 @@
 #include <cstdint>
 #include <utility>
 
+#include "toolkit/folding.h"
+
 namespace tarvex {
 
 namespace {
 
 constexpr char32_t Replacement = 0xFFFD;  // Unicode's mark for what is no character
-
-std::string Folded(std::string_view text) {
-    std::string folded(text);
-    for (char& c : folded) {
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + ('a' - 'A'));
-    }
-    return folded;
-}
 
 bool TakeIfThere(std::string_view& text, std::string_view beginning) {
     if (!text.starts_with(beginning)) return false;
