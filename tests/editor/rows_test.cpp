@@ -1,6 +1,5 @@
 #include <algorithm>
 
-#include "geometry/text_rules.h"
 #include "support/editor_road.h"
 
 namespace tarvex::testing {
@@ -8,18 +7,6 @@ namespace {
 
 class Rows : public EditorRoad {
   protected:
-    // Type, decimals, degrees and minutes, frequency, airspeed, both altitudes and restriction of a row.
-    std::string Fields(std::size_t index) {
-        const WaypointRecord& row = Row(index);
-        std::string all{RightTrim(row.WaypointID)};
-        for (const std::string_view field : std::initializer_list<std::string_view>{
-                 row.WaypointType, row.LatDecimal, row.LatDegrees, row.LatMinutes, row.LongDecimal,
-                 row.LongDegrees, row.LongMinutes, row.Frequency, row.Airspeed, row.Altitude2, row.Altitude1,
-                 row.RestrictionType}) {
-            all.append("|").append(RightTrim(field));
-        }
-        return all;
-    }
     bool Edited() { return Editor().LatEdited != False || Editor().LongEdited != False; }
 };
 

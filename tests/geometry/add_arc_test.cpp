@@ -104,20 +104,8 @@ TEST_F(ArcDesigner, EveryPointIsARowBehindTheOthers) {
     EXPECT_EQ(Lines(), (std::vector<std::string>{"FIRST", "ABC1", "ABC2", "ABC3", "ABC4", "ABC5", "ABC6",
                                                  "ABC7", "ABC8"}));
     EXPECT_EQ(State().WaypointCount, 9);
-    WaypointRecord expected;
-    expected.WaypointID = "ABC1";
-    expected.LatDecimal = "33.5";
-    expected.LatDegrees = "33";
-    expected.LatMinutes = "30.";
-    expected.LongDecimal = "-117.050133";
-    expected.LongDegrees = "-117";
-    expected.LongMinutes = "3.007951";
-    expected.WaypointType = "0";
-    expected.Frequency = "0";
-    expected.Airspeed = "0";
-    expected.Altitude1 = expected.Altitude2 = "0";
-    expected.RestrictionType = "0";
-    EXPECT_EQ(Row(1), expected);
+    EXPECT_EQ(Fields(1), "ABC1|0|33.5|33|30.|-117.050133|-117|3.007951|0|0|0|0|0");
+    EXPECT_EQ(Row(1).CoordinatesEdited, False);
     EXPECT_EQ(Row(8).LatDecimal, "33.366667") << "two miles nearer to the centre";
     ExpectSilence();
 }
@@ -129,8 +117,7 @@ TEST_F(ArcDesigner, SouthernAndEasternRowsCarryTheirSigns) {
     Design("90", "91");
     EXPECT_EQ(Lines().at(0), "LONGSTEMS11");
     EXPECT_EQ(Row(0).WaypointID.Text(), "LONGSTEMS1");
-    EXPECT_EQ(Row(0).LatDecimal + "|" + Row(0).LatDegrees, "-.5|0");
-    EXPECT_EQ(Row(0).LongDecimal + "|" + Row(0).LongDegrees, "117.416673|117");
+    EXPECT_EQ(Fields(0), "LONGSTEMS1|0|-.5|0|30.|117.416673|117|25.000381|0|0|0|0|0");
 }
 
 TEST_F(ArcDesigner, ArcThatDoesNotFitMakesNoRow) {

@@ -3,13 +3,6 @@
 namespace tarvex::testing {
 namespace {
 
-constexpr const char* NoCourse = "You must type in a Ture Course.\r\n                Please correct.";
-constexpr const char* NoDistance = "You must type in a Distance.\r\n          Please correct.";
-constexpr const char* NoWaypointID = "You must type in a Waypoint ID.\r\n            Please correct.";
-constexpr const char* NoStartPoint = "You must pick a starting point.\r\n            Please correct.";
-constexpr const char* ReachesPole =
-    "This distance reaches or passes a pole.\r\n                  Please correct.";
-
 class DerivedWaypoint : public ToolRoad {
   protected:
     DerivedWaypoint() {
@@ -23,20 +16,18 @@ class DerivedWaypoint : public ToolRoad {
 };
 
 TEST_F(DerivedWaypoint, TransferAsksForWhatIsMissingInOrder) {
-    const struct {
-        const char *course, *distance, *name, *complaint, *focus;
-    } steps[] = {
-        {"", "", "", NoCourse, "TrueCourseText"},
-        {"90", "", "", NoDistance, "DistText"},
-        {"", "10", "", NoWaypointID, "WaypointIDText"},
-        {"", "", "abc", NoStartPoint, "TransferCommand"},
-    };
-    for (const auto& s : steps) {
-        FillDerived(s.course, s.distance, s.name);
+    const auto transfer = [&](const char* complaint, const char* focus) {
         user->Presses(Deriving().TransferCommand);
-        ExpectComplaint(s.complaint, s.focus);
+        ExpectComplaint(complaint, focus);
         EXPECT_EQ(Editor().FixNameText.Text() + Editor().DDMLatText.Text(), "");
-    }
+    };
+    transfer("You must type in a Ture Course.\r\n                Please correct.", "TrueCourseText");
+    FillDerived("90", "", "");
+    transfer("You must type in a Distance.\r\n          Please correct.", "DistText");
+    FillDerived("", "10", "");
+    transfer("You must type in a Waypoint ID.\r\n            Please correct.", "WaypointIDText");
+    FillDerived("", "", "abc");
+    transfer("You must pick a starting point.\r\n            Please correct.", "TransferCommand");
     EXPECT_TRUE(program->createWaypointForm.IsLoaded());
 }
 
@@ -77,7 +68,8 @@ TEST_F(DerivedWaypoint, PolesAreOutOfReachAndTheInputStays) {
     for (const char* distance : {"3390", "9e99"}) {
         user->Types(Deriving().DistText, distance);
         user->Presses(Deriving().TransferCommand);
-        ExpectComplaint(ReachesPole, "TransferCommand");
+        ExpectComplaint("This distance reaches or passes a pole.\r\n                  Please correct.",
+                        "TransferCommand");
         EXPECT_EQ(Editor().FixNameText.Text() + Position(), start);
     }
     user->Types(Deriving().DistText, "3389");

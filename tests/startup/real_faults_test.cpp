@@ -59,6 +59,10 @@ class RealFaults : public ::testing::Test {
     }
     void AskForStar() { user->Presses(program->initialLoad.Get()->ModifySTAR); }
     void PickStar() { user->PicksFile(program->pickFile.Get()->FileList, "KXYZ-DEMO1.wst"); }
+    void OpenStar() {
+        AskForStar();
+        PickStar();
+    }
     void Save() { user->Presses(program->modifyProcedure.Get()->SaveCommand); }
     void AddRows(int count) {
         ModifyProcedure& editor = *program->modifyProcedure.Get();
@@ -96,8 +100,7 @@ TEST_F(RealFaults, FullDiskLosesNothing) {
     if (!Mount()) GTEST_SKIP() << "no disk can be mounted here";
     PutSimulator(Stored);
     Start();
-    AskForStar();
-    PickStar();
+    OpenStar();
     AddRows(200);
     FillUp();
     Save();
@@ -108,8 +111,7 @@ TEST_F(RealFaults, FullDiskLosesNothing) {
     FillUp();
     Start();
     EXPECT_EQ(End(), "[Tarvex 2.35] InitialLoad");
-    AskForStar();
-    PickStar();
+    OpenStar();
     EXPECT_EQ(End(), "ModifyProcedure");
 
     std::filesystem::remove(folder.On("filler"));
@@ -128,8 +130,7 @@ TEST_F(RealFaults, ReadOnlyDiskIsReadAndKept) {
     MakeReadOnly();
     Start();
     EXPECT_EQ(End(), "[Tarvex 2.35] InitialLoad");
-    AskForStar();
-    PickStar();
+    OpenStar();
     EXPECT_EQ(End(), "[Procedure not opened.] InitialLoad");
     AskForStar();
     user->PicksFile(program->pickFile.Get()->FileList, "KXYZ-SOUND.wst");
@@ -155,8 +156,7 @@ TEST_F(RealFaults, FileThatGoesAwayIsNotOpenedAndIsSavedAnew) {
     EXPECT_EQ(End(), "[Procedure not opened.] InitialLoad");
 
     folder.Put(Star, Stored);
-    AskForStar();
-    PickStar();
+    OpenStar();
     std::filesystem::remove(folder.On(Star));
     Save();
     EXPECT_EQ(End(), "InitialLoad");
@@ -173,8 +173,7 @@ TEST_F(RealFaults, ProcedureFolderThatGoesAwayIsToldApart) {
     EXPECT_EQ(End(), "[Procedure not opened.] InitialLoad");
 
     folder.Put(Star, Stored);
-    AskForStar();
-    PickStar();
+    OpenStar();
     std::filesystem::remove_all(stars);
     Save();
     EXPECT_EQ(End(), "[Program termination.] stopped: " + StarPath() + ": no such folder");

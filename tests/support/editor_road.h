@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "geometry/text_rules.h"
 #include "startup/program.h"
 #include "support/scripted_user.h"
 #include "support/test_services.h"
@@ -42,6 +43,20 @@ class EditorRoad : public ::testing::Test {
     ModifyProcedure& Editor() { return *program->modifyProcedure.Get(); }
     SharedState& State() { return program->state; }
     const WaypointRecord& Row(std::size_t index) { return State().WaypointTable.at(index); }
+
+    // Name, type, decimals, degrees and minutes, frequency, airspeed, both altitudes and restriction of a
+    // row.
+    std::string Fields(std::size_t index) {
+        const WaypointRecord& row = Row(index);
+        std::string all{RightTrim(row.WaypointID)};
+        for (const std::string_view field : std::initializer_list<std::string_view>{
+                 row.WaypointType, row.LatDecimal, row.LatDegrees, row.LatMinutes, row.LongDecimal,
+                 row.LongDegrees, row.LongMinutes, row.Frequency, row.Airspeed, row.Altitude2, row.Altitude1,
+                 row.RestrictionType}) {
+            all.append("|").append(RightTrim(field));
+        }
+        return all;
+    }
 
     ModifyProcedure& CreateDP() {
         user->Presses(Menu().CreateDP);
