@@ -5,22 +5,12 @@
 #include <limits>
 
 #include "geometry/fixed_field.h"
-#include "toolkit/failure.h"
+#include "support/failure_of.h"
 
-namespace tarvex {
+namespace tarvex::testing {
 namespace {
 
 constexpr double Infinity = std::numeric_limits<double>::infinity();
-
-template <typename Operation>
-int FailureOf(Operation operation) {
-    try {
-        operation();
-    } catch (const Failure& failure) {
-        return failure.Number();
-    }
-    return 0;
-}
 
 using Reading = std::pair<std::string_view, double>;
 
@@ -33,11 +23,8 @@ TEST(LeadingNumberTest, ReadsWhatTheTextBeginsWith) {
         {"1e400", Infinity},
     };
     for (const auto& [text, number] : cases) EXPECT_EQ(LeadingNumber(text), number) << text;
-    for (const char* none :
-         {"", ".", "abc", "     ", "--5", "'33", ".e5", "e5", "&O8", "&H", "&5", "inf", "nan", "0x10",
-          "\xE9"
-          "1",
-          "1e-99999999999999999999", "0e99999999999999999999"}) {
+    for (const char* none : {"", ".", "abc", "     ", "--5", "'33", ".e5", "e5", "&O8", "&H", "&5", "inf",
+                             "nan", "0x10", "\3511", "1e-99999999999999999999", "0e99999999999999999999"}) {
         EXPECT_EQ(LeadingNumber(none), 0) << none;
     }
     EXPECT_FALSE(std::signbit(LeadingNumber("-0")));
@@ -62,10 +49,10 @@ TEST(StrictNumberTest, TakesWholeTextsOnly) {
                                         "12abc", "&H10", "$1", "(1)", "nan", "inf",  "1,e3"};
     for (std::string_view text : refused) {
         EXPECT_FALSE(IsNumberText(text)) << text;
-        EXPECT_EQ(FailureOf([&] { StrictNumber(text); }), NotANumber) << text;
+        EXPECT_EQ(NumberOf([&] { StrictNumber(text); }), NotANumber) << text;
     }
     EXPECT_FALSE(IsNumberText("1e999"));
-    EXPECT_EQ(FailureOf([] { StrictNumber("1e999"); }), Overflow);
+    EXPECT_EQ(NumberOf([] { StrictNumber("1e999"); }), Overflow);
 }
 
 TEST(NumberTextTest, LaysOutPlainAndSignedTexts) {
@@ -92,8 +79,8 @@ TEST(NumberTextTest, LaysOutPlainAndSignedTexts) {
         EXPECT_EQ(SignedNumberText(number), withSign);
         EXPECT_EQ(SignedNumberText(plain), withSign);
     }
-    EXPECT_EQ(FailureOf([] { NumberText(Infinity); }), Overflow);
-    EXPECT_EQ(FailureOf([] { SignedNumberText(""); }), NotANumber);
+    EXPECT_EQ(NumberOf([] { NumberText(Infinity); }), Overflow);
+    EXPECT_EQ(NumberOf([] { SignedNumberText(""); }), NotANumber);
     EXPECT_EQ(WholeDegreesText(117.99) + WholeDegreesText(0.99), "1170");
 }
 
@@ -124,7 +111,7 @@ TEST(PatternFormatTest, KeepsThePointAndDropsZeros) {
         }
     }
     EXPECT_EQ(PatternFormat(" 33.25 ", FourDigitPattern), "33.25");
-    EXPECT_EQ(FailureOf([] { PatternFormat(".", FourDigitPattern); }), NotANumber);
+    EXPECT_EQ(NumberOf([] { PatternFormat(".", FourDigitPattern); }), NotANumber);
 }
 
 TEST(RoundingTest, TiesGoToEvenOnFifteenDigits) {
@@ -150,9 +137,9 @@ TEST(RoundingTest, WholeNumbers) {
     EXPECT_EQ(WholeNumber16(32767.4), 32767);
     EXPECT_EQ(WholeNumber32(-2147483648.0), std::numeric_limits<std::int32_t>::min());
     for (double tooLarge : {32767.5, -32768.6, Infinity, std::nan("")}) {
-        EXPECT_EQ(FailureOf([&] { WholeNumber16(tooLarge); }), Overflow);
+        EXPECT_EQ(NumberOf([&] { WholeNumber16(tooLarge); }), Overflow);
     }
-    EXPECT_EQ(FailureOf([] { WholeNumber32(2147483647.5); }), Overflow);
+    EXPECT_EQ(NumberOf([] { WholeNumber32(2147483647.5); }), Overflow);
 }
 
 TEST(TextPartsTest, CutTrimAndFind) {
@@ -165,9 +152,9 @@ TEST(TextPartsTest, CutTrimAndFind) {
     EXPECT_EQ(Mid("ABC", 2, 1), "B");
     EXPECT_EQ(Mid("ABC", 4), "");
     EXPECT_EQ(Mid("ABC", 9, 2), "");
-    EXPECT_EQ(FailureOf([] { Left("ABC", -1); }), BadArgument);
-    EXPECT_EQ(FailureOf([] { Mid("ABC", 0); }), BadArgument);
-    EXPECT_EQ(FailureOf([] { Mid("ABC", 1, -1); }), BadArgument);
+    EXPECT_EQ(NumberOf([] { Left("ABC", -1); }), BadArgument);
+    EXPECT_EQ(NumberOf([] { Mid("ABC", 0); }), BadArgument);
+    EXPECT_EQ(NumberOf([] { Mid("ABC", 1, -1); }), BadArgument);
     const std::pair<std::ptrdiff_t, std::ptrdiff_t> dashes[] = {{1, 5}, {6, 7}, {8, 0}, {99, 0}};
     for (const auto& [start, place] : dashes) EXPECT_EQ(Find(start, "KJFK-A-B", "-"), place);
 
@@ -190,4 +177,4 @@ TEST(UpperTest, CoversTheCodePageAndLeavesUtf8Alone) {
 }
 
 }  // namespace
-}  // namespace tarvex
+}  // namespace tarvex::testing

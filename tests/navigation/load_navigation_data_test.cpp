@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/failure_of.h"
 #include "support/memory_file_system.h"
-#include "toolkit/failure.h"
 
 namespace tarvex::testing {
 namespace {
@@ -24,12 +24,8 @@ class LoadNavigationDataTest : public ::testing::Test {
     bool HasData() { return HasNavigationData(files, "C:\\FS2000"); }
     // The number and the reason of the failure; empty without one.
     std::string FailureOfLoad() {
-        try {
-            Load();
-        } catch (const Failure& failure) {
-            return std::to_string(failure.Number()) + " " + failure.Reason();
-        }
-        return {};
+        const Failure failure = FailureOf([this] { Load(); });
+        return failure.Number() == 0 ? "" : std::to_string(failure.Number()) + " " + failure.Reason();
     }
     std::vector<int> Counts() const { return {tables.FixCount, tables.NavaidCount, tables.AirportCount}; }
     std::string Fix(std::size_t index) const {

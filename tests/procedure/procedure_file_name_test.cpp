@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "toolkit/failure.h"
+#include "support/failure_of.h"
 
 namespace tarvex {
 
@@ -50,13 +50,9 @@ TEST(ProcedureFileName, IsSplitAtItsFirstSeparators) {
 
 TEST(ProcedureFileName, WithoutASeparatorItNeedsIsRefused) {
     const auto refused = [](const std::string& fileName, const char* reason) {
-        try {
-            SplitProcedureFileName(fileName);
-            ADD_FAILURE() << fileName;
-        } catch (const Failure& failure) {
-            EXPECT_EQ(failure.Number(), BadArgument);
-            EXPECT_EQ(failure.Reason(), fileName + ": the name has no " + reason);
-        }
+        const Failure failure = testing::FailureOf([&] { SplitProcedureFileName(fileName); });
+        EXPECT_EQ(failure.Number(), BadArgument);
+        EXPECT_EQ(failure.Reason(), fileName + ": the name has no " + reason);
     };
     for (const char* name : {"", "KXYZ.wsd"}) refused(name, "\"-\" behind the airport's code");
     for (const char* name : {"KXYZ-DEMO1", "KX.YZ-DEMO1"}) refused(name, "\".\" that ends the basic name");

@@ -59,7 +59,8 @@ class ProcedureReader : public ::testing::Test {
         EXPECT_EQ(files.Content(Path), text);
     }
     void PutAirport(const char* id, std::int16_t elevation) {
-        AirportRecord& airport = state.Navigation.AirportTable[++state.Navigation.AirportCount];
+        const auto last = static_cast<std::size_t>(++state.Navigation.AirportCount);
+        AirportRecord& airport = state.Navigation.AirportTable[last];
         airport.AirportID = id;
         airport.AirportElevation = elevation;
     }

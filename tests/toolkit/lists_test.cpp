@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "support/failure_of.h"
 #include "support/memory_file_system.h"
 #include "toolkit/drive_lists.h"
-#include "toolkit/failure.h"
 #include "toolkit/form_host.h"
 #include "toolkit/list_box.h"
 #include "toolkit/user_door.h"
@@ -11,16 +11,6 @@ namespace tarvex::testing {
 namespace {
 
 using Names = std::vector<std::string>;
-
-template <class Call>
-int NumberOf(Call call) {
-    try {
-        call();
-    } catch (const Failure& failure) {
-        return failure.Number();
-    }
-    return 0;
-}
 
 struct Lists : Form {
     Lists(FormHost& formHost, FileSystem& files)

@@ -6,8 +6,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "support/failure_of.h"
 #include "support/temp_folder.h"
-#include "toolkit/failure.h"
 #include "toolkit/native_clock.h"
 #include "toolkit/native_file_system.h"
 #include "toolkit/native_registry.h"
@@ -35,23 +35,13 @@ class Environment {
     std::optional<std::string> before_;
 };
 
-template <class Call>
-Failure FailureOf(Call call) {
-    try {
-        call();
-    } catch (const Failure& failure) {
-        return failure;
-    }
-    return {0, {}};
-}
-
 TEST(PosixFiles, PipesAndDevicesAreRefused) {
     const TempFolder folder;
     ASSERT_EQ(mkfifo(folder.On("pipe").c_str(), 0600), 0);
     const auto files = MakeNativeFileSystem();
     for (const std::string& path : {folder.Path("pipe"), std::string("\\dev\\null")}) {
-        EXPECT_EQ(FailureOf([&] { files->Read(path); }).Number(), AccessError) << path;
-        EXPECT_EQ(FailureOf([&] { files->Write(path, "x"); }).Number(), AccessError) << path;
+        EXPECT_EQ(NumberOf([&] { files->Read(path); }), AccessError) << path;
+        EXPECT_EQ(NumberOf([&] { files->Write(path, "x"); }), AccessError) << path;
         EXPECT_EQ(files->FindFile(path), std::nullopt);
     }
     EXPECT_TRUE(files->Files(folder.Path()).empty());
@@ -97,10 +87,10 @@ TEST(PosixFiles, MissingRightsAreToldApart) {
     chmod(folder.On("fixed").c_str(), 0444);
     chmod(folder.On("shut").c_str(), 0);
     const auto files = MakeNativeFileSystem();
-    EXPECT_EQ(FailureOf([&] { files->Read(folder.Path("secret")); }).Number(), PermissionDenied);
-    EXPECT_EQ(FailureOf([&] { files->Write(folder.Path("fixed"), "y"); }).Number(), AccessError);
-    EXPECT_EQ(FailureOf([&] { files->Read(folder.Path("shut\\inner")); }).Number(), PermissionDenied);
-    EXPECT_EQ(FailureOf([&] { files->Files(folder.Path("shut")); }).Number(), PermissionDenied);
+    EXPECT_EQ(NumberOf([&] { files->Read(folder.Path("secret")); }), PermissionDenied);
+    EXPECT_EQ(NumberOf([&] { files->Write(folder.Path("fixed"), "y"); }), AccessError);
+    EXPECT_EQ(NumberOf([&] { files->Read(folder.Path("shut\\inner")); }), PermissionDenied);
+    EXPECT_EQ(NumberOf([&] { files->Files(folder.Path("shut")); }), PermissionDenied);
     chmod(folder.On("shut").c_str(), 0700);
 }
 
@@ -117,7 +107,7 @@ TEST(PosixFiles, ListsLinksByWhatTheyLeadToAndOnlyNamesThatAPathCanHold) {
     std::sort(folders.begin(), folders.end());
     EXPECT_EQ(files->Files(folder.Path()), std::vector<std::string>{"to file"});
     EXPECT_EQ(folders, (std::vector<std::string>{"sub", "to folder"}));
-    EXPECT_EQ(FailureOf([&] { files->Read(folder.Path("to nothing")); }).Number(), FileNotFound);
+    EXPECT_EQ(NumberOf([&] { files->Read(folder.Path("to nothing")); }), FileNotFound);
 }
 
 TEST(PosixFiles, CurrentFolderThatHasGoneIsAFailure) {
@@ -157,8 +147,8 @@ TEST_F(BesideWine, DriveLettersLeadThroughThePrefix) {
     EXPECT_EQ(folder.Content("prefix/drive_c/FS2000/New.txt"), "new");
     EXPECT_EQ(files->FolderOfDrive("C:\\"), "C:\\");
     EXPECT_EQ(files->Folders("C:\\"), std::vector<std::string>{"FS2000"});
-    EXPECT_EQ(FailureOf([&] { files->Read("D:\\x"); }).Number(), PathNotFound);
-    EXPECT_EQ(FailureOf([&] { files->FolderOfDrive("D:\\"); }).Number(), PathNotFound);
+    EXPECT_EQ(NumberOf([&] { files->Read("D:\\x"); }), PathNotFound);
+    EXPECT_EQ(NumberOf([&] { files->FolderOfDrive("D:\\"); }), PathNotFound);
 }
 
 TEST_F(BesideWine, RegistryOfThePrefixAnswers) {
@@ -191,7 +181,7 @@ TEST(WithoutWine, ThereIsTheRootAloneAndNoKey) {
     const Environment prefix("WINEPREFIX", folder.On("none").string());
     const auto files = MakeNativeFileSystem();
     EXPECT_EQ(files->Drives(), std::vector<std::string>{"\\"});
-    EXPECT_EQ(FailureOf([&] { files->Read("C:\\x"); }).Number(), PathNotFound);
+    EXPECT_EQ(NumberOf([&] { files->Read("C:\\x"); }), PathNotFound);
     Registry::Key key = 0;
     EXPECT_FALSE(MakeNativeRegistry()->OpenKey(0x80000002, "Software", 0xF003F, key));
 }
