@@ -58,7 +58,7 @@ TEST_F(Saving, NeedsANameThatAFileCanHave) {
                           ".\r\nA filename holds none of the characters \\ / : * ? \" < > |",
                       "Correct the filename.", "AptNameText");
     }
-    EXPECT_TRUE(services.files.Written().empty());
+    EXPECT_EQ(services.files.Writes(), 0);
     Name("KXYZ", "A-B.C");
     EXPECT_EQ(Save("KXYZ-A-B.C.wsd"), Saved(one));
 }
@@ -78,7 +78,7 @@ TEST_F(Saving, AsksBeforeItOverwritesTheSameNameInACreateMode) {
     user->Picks(editor.SLatOption);
     EXPECT_EQ(Save("KXYZ-DEMO1.wsd"), "");
     ExpectMessage(shown, "AptNameText");
-    EXPECT_TRUE(services.files.Written().empty());
+    EXPECT_EQ(services.files.Writes(), 0);
 
     services.messages.Answer(MessageAnswer::Yes);
     EXPECT_EQ(Save("KXYZ-DEMO1.wsd"), Saved(one));
@@ -113,7 +113,7 @@ TEST_F(Saving, TextThatTheFileCanNotHoldIsNotSaved) {
         "A procedure file can not hold a comma or a line end in it, nor a quote at its beginning.\r\n"
         "Nothing was saved. Please correct the waypoint.",
         "Correct to continue.", "SaveCommand");
-    EXPECT_TRUE(services.files.Written().empty());
+    EXPECT_EQ(services.files.Writes(), 0);
 }
 
 TEST_F(Saving, TypeThatIsNoNumberStopsBeforeTheFileIsOpened) {

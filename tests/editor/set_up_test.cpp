@@ -101,7 +101,7 @@ TEST_F(SettingUp, WhatCanNotBeOpenedSaysWhyAndStaysAsItIs) {
         EXPECT_FALSE(program->modifyProcedure.IsLoaded());
         EXPECT_EQ(program->host.Visible(), std::vector<Form*>{&Menu()});
         EXPECT_EQ(State().WaypointCount, 7);
-        EXPECT_TRUE(services.files.Written().empty());
+        EXPECT_EQ(services.files.Writes(), 0);
         if (services.files.Has(Path(name))) {
             EXPECT_EQ(services.files.Content(Path(name)), text);
         }

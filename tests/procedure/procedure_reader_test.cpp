@@ -74,7 +74,7 @@ TEST_F(ProcedureReader, StoresEveryColumnAndSplitsTheCoordinates) {
     const WaypointRecord expected{"ROBUC", "0",        "40.512345", "40",  "30.7407", False,   "-73.851234",
                                   "73",    "51.07404", "113.60",    "250", "3000",    "10000", "3"};
     EXPECT_EQ(state.WaypointTable[0], expected);
-    EXPECT_TRUE(files.Written().empty());
+    EXPECT_EQ(files.Writes(), 0);
 }
 
 TEST_F(ProcedureReader, SplitsEveryFormOfACoordinate) {
@@ -221,7 +221,7 @@ TEST_F(ProcedureReader, ConvertsRunwaysOfOlderApproaches) {
     EXPECT_EQ(state.WaypointTable[0].LatMinutes, "30");
 
     EXPECT_EQ(ReadProcedureFile(files, state), 5);
-    EXPECT_EQ(files.Written().size(), 1U);
+    EXPECT_EQ(files.Writes(), 1);
 }
 
 TEST_F(ProcedureReader, ConvertsByTheLastCharacterOfACommentAndOnlyApproaches) {

@@ -49,7 +49,7 @@ void ExpectStart(const std::string& before, const char* registered, const std::s
     machine.program.Start();
     EXPECT_EQ(machine.Screen(), *settings == '|' ? "FindFS2000Form" : "InitialLoad");
     EXPECT_EQ(machine.SettingsFile(), after);
-    EXPECT_EQ(machine.services.files.Written().size(), before == after ? 0U : 1U);
+    EXPECT_EQ(machine.services.files.Writes(), before == after ? 0 : 1);
     EXPECT_EQ(machine.Settings(), settings);
     EXPECT_EQ(machine.services.messages.Take(), std::vector<Message>());
     EXPECT_EQ(machine.program.state.ProgramVersion, "2.35");
@@ -167,7 +167,7 @@ TEST(StartTest, ExitAndClosingEndTheRun) {
             program.door.Press(program.initialLoad.Get()->ExitCommand);
         }
         EXPECT_EQ(machine.Screen(), "stopped 0 ");
-        EXPECT_TRUE(machine.services.files.Written().empty());
+        EXPECT_EQ(machine.services.files.Writes(), 0);
     }
 }
 
