@@ -41,6 +41,7 @@ TEST(RhumbLineTest, PositionsAsTexts) {
         EXPECT_EQ(texts.west, test.longitude.starts_with('-'));
     }
     EXPECT_FALSE(TextsAt(1, 20, 60, 180).south) << "the equator shows as north";
+    EXPECT_EQ(PositiveModulus(-6, 3), 3);
 }
 
 TEST(RhumbLineTest, PolesEndTheLine) {
