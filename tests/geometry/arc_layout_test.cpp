@@ -61,6 +61,7 @@ TEST(ArcLayoutTest, Radials) {
         {RequestOf(90, 106, Turn::Right), {90, 98, 106}},
         {RequestOf(10, 70, Turn::Right, 13, east), {23, 38, 53, 68, 83}},
         {RequestOf(350, 10, Turn::Right), {350, 0, 10}},
+        {RequestOf(300, 0, Turn::Right), {300, 315, 330, 345, 0}},
         {RequestOf(300, 360, Turn::Right), {300, 315, 330, 345, 0}},
         {RequestOf(30, 330, Turn::Left), {30, 15, 0, 345, 330}},
         {RequestOf(300, 0, Turn::Right, 10, west), {290, 305, 320, 335, 350}},

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 #include <random>
 
-#include "geometry/rhumb_line.h"
+#include "geometry/arc_layout.h"
 
 namespace tarvex {
 namespace {
@@ -68,6 +68,47 @@ TEST(RhumbLineReferenceTest, AgreesWithGeographicLib) {
         }
         EXPECT_GT(compared, 5000) << test.name;
         EXPECT_LT(worst, test.tolerance) << test.name;
+    }
+}
+
+// A point at each step of the turn from the true start on, at the radius, and the closing point on the last
+// radial.
+TEST(RhumbLineReferenceTest, ArcsAreEvenOnTheirRadius) {
+    const GeographicLib::Rhumb reference(1, 0);
+    std::mt19937_64 random(40004);
+    const auto pick = [&](int from, int to) { return std::uniform_int_distribution<int>(from, to)(random); };
+    for (int run = 0; run < 1000; ++run) {
+        SCOPED_TRACE(run);
+        const int start = pick(0, 359);
+        const int sweep = pick(1, 359);
+        const int variation = pick(-60, 60);  // east positive
+        const int radius = pick(1, 99);
+        const int turn = pick(0, 1) ? 1 : -1;
+        const bool closes = pick(0, 1);
+        const ArcRequest request{.centerLat = pick(-75000, 75000) / 1000.0,
+                                 .centerLong = pick(-180000, 180000) / 1000.0,
+                                 .start = 1.0 * start,
+                                 .end = 1.0 * ((start + turn * sweep + 360) % 360),
+                                 .radius = 1.0 * radius,
+                                 .variation = std::fabs(variation),
+                                 .side = variation < 0 ? VariationSide::West : VariationSide::East,
+                                 .turn = turn > 0 ? Turn::Right : Turn::Left,
+                                 .closingPoint = closes};
+        const auto points = LayOutArc(request).points;
+        const int steps = sweep / 16 + 1;
+        ASSERT_EQ(points.size(), static_cast<std::size_t>(steps + (closes ? 2 : 1)));
+        int index = 0;
+        for (const ArcPoint& point : points) {
+            const double radial = start + variation + 1.0 * turn * sweep * std::min(index, steps) / steps;
+            const int miles = index > steps ? radius - 2 : radius;
+            double lat = 0;
+            double lon = 0;
+            reference.Direct(request.centerLat, request.centerLong, radial, miles * RadiansPerNauticalMile,
+                             lat, lon);
+            ASSERT_NEAR(point.position.latitude * DegreesPerRadian, lat, 1e-9);
+            ASSERT_NEAR(std::remainder(-point.position.longitude * DegreesPerRadian - lon, 360), 0, 1e-6);
+            ++index;
+        }
     }
 }
 

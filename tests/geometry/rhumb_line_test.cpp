@@ -26,6 +26,8 @@ TEST(RhumbLineTest, PositionsAsTexts) {
         {33.5, -117.25, 10, 450, "33.5 33 30.", "-117.050133 -117 3.007951"},
         {33.5, -117.25, -10, 270, "33.5 33 30.", "-117.050133 -117 3.007951"},
         {51, 0, 60, 0, "52. 52 .", "-. -0 ."},
+        {51, 180, 60, 0, "52. 52 .", "-180. -179 60."},
+        {51, -180, 60, 0, "52. 52 .", "180. 179 60."},
         {0.25, 0.5, 60, 180, "-.75 0 45.", ".5 0 30."},
         {-33.5, 151.25, 15, 180, "-33.75 33 45.", "151.25 151 15."},
         {32.9999999999, 0.9999999999, 0, 0, "33. 32 60.", "1. 0 60."},
@@ -39,6 +41,7 @@ TEST(RhumbLineTest, PositionsAsTexts) {
         EXPECT_EQ(texts.west, test.longitude.starts_with('-'));
     }
     EXPECT_FALSE(TextsAt(1, 20, 60, 180).south) << "the equator shows as north";
+    EXPECT_EQ(PositiveModulus(-6, 3), 3);
 }
 
 TEST(RhumbLineTest, PolesEndTheLine) {

@@ -7,7 +7,7 @@ class Searching : public ToolRoad {
   protected:
     Searching() {
         PutFix("ALPHA", "  33.50000", " -118.25000");
-        PutFix("BRAVO", " -0.500000", " 118.407500");
+        PutFix("BRVO", " -0.500000", " 118.407500");
         PutFix("TWICE", "1", "2");
         PutFix("TWICE", "-3", "-4");
         PutNavaid("DMO", "113.60", "33.933333", "-118.400000");
@@ -34,7 +34,10 @@ class Searching : public ToolRoad {
         user->Types(Editor().FixNameText, "OLD");
         user->Presses(opener);
     }
-    bool ShowsPosition() { return Search().LatText.Visible() && Search().LongText.Visible(); }
+    bool ShowsPosition() {
+        EXPECT_EQ(Search().LatText.Visible(), Search().LongText.Visible());
+        return Search().LatText.Visible();
+    }
 };
 
 TEST_F(Searching, EveryKindOpensOverItsTable) {
@@ -133,6 +136,7 @@ TEST_F(Searching, PositionThatIsNoNumberIsNotOffered) {
             "                              It can not be transferred.",
             "WaypointListBox");
         EXPECT_FALSE(Search().AddWaypoint.Enabled() || ShowsPosition() || Search().FreqLabel.Visible());
+        EXPECT_EQ(Search().FreqText.Caption(), "");
         EXPECT_EQ(State().TransferLatDecimal, 33);
     }
 }
@@ -140,9 +144,9 @@ TEST_F(Searching, PositionThatIsNoNumberIsNotOffered) {
 TEST_F(Searching, TransfersFillTheEditor) {
     ModifyProcedure& editor = CreateDP();
     State().RunwayTransfer = True;
-    Transfer(editor.FindFixCommand, "bravo");
+    Transfer(editor.FindFixCommand, "brvo");
     EXPECT_FALSE(program->findWaypointForm.IsLoaded());
-    EXPECT_EQ(editor.FixNameText.Text(), "BRAVO");
+    EXPECT_EQ(editor.FixNameText.Text(), "BRVO");
     EXPECT_EQ(Position(), "S0/30        E118/24.449999");
     EXPECT_EQ(State().RunwayTransfer, False);
     EXPECT_EQ(State().TransferLongDecimal, 118.4075);
@@ -158,17 +162,16 @@ TEST_F(Searching, TransfersFillTheEditor) {
 TEST_F(Searching, AirportIsARunwayWaypointOnlyInAnApproach) {
     PutRunway("KABC09", "-1", "2", -12);
     const struct {
-        Button InitialLoad::*action;
-        const char *airport, *name, *altitude, *type;
+        const char *mode, *airport, *name, *altitude, *type;
     } cases[] = {
-        {&InitialLoad::CreateDP, "KXYZ", "KXYZ27L", "", "0 "},
-        {&InitialLoad::CreateSTAR, "KABC", "KABC09 ", "", "0 "},
-        {&InitialLoad::CreateIAP, "KXYZ", "RW27L", "126", "15"},
-        {&InitialLoad::CreateIAP, "KABC", "RW09 ", "-12", "15"},
+        {"E", "KXYZ", "KXYZ27L", "", "0 "},  {"D", "KXYZ", "KXYZ27L", "", "0 "},
+        {"T", "KABC", "KABC09 ", "", "0 "},  {"S", "KABC", "KABC09 ", "", "0 "},
+        {"J", "KXYZ", "RW27L", "126", "15"}, {"I", "KABC", "RW09 ", "-12", "15"},
     };
     for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        ModifyProcedure& editor = Create(c.action);
+        SCOPED_TRACE(c.mode);
+        ModifyProcedure& editor = CreateDP();
+        State().ProcedureMode = c.mode;
         Transfer(editor.FindAirportCommand, c.airport);
         EXPECT_EQ(editor.FixNameText.Text(), c.name);
         EXPECT_EQ(editor.Alt1Text.Text(), c.altitude);
@@ -196,6 +199,7 @@ TEST_F(Searching, StartPointIsPickedOnce) {
         SCOPED_TRACE(c.picked);
         user->Presses(editor.CreateWaypointCommand);
         EXPECT_EQ(State().StartPointSelected, False);
+        State().RunwayTransfer = True;  // of a runway found before
         Transfer(Deriving().*c.opener, c.text);
         EXPECT_EQ(State().StartPointSelected, True);
         EXPECT_EQ(std::pair(State().StartLat, State().StartLong), std::pair(c.lat, c.lon));
