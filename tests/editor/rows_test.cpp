@@ -188,12 +188,24 @@ TEST_F(Rows, ModifyWritesTheBoxesAndForcesTheSigns) {
         EXPECT_EQ(editor.WaypointList.ListIndex(), 0);
         EXPECT_FALSE(Edited());
 
-        // With the flags fallen another press leaves degrees and minutes alone.
+        // With the flags fallen another press leaves degrees and minutes alone; then it goes by the axis.
         const WaypointRecord modified = Row(0);
+        State().WaypointTable[0].CoordinatesEdited = False;
         editor.DDMLatText.SetText("77");
         editor.DMMLongText.SetText("7");
         user->Presses(editor.ModifyWaypointCommand);
         EXPECT_EQ(Row(0).LatDegrees + Row(0).LongMinutes, modified.LatDegrees + modified.LongMinutes);
+        EXPECT_EQ(Row(0).CoordinatesEdited, False);
+        user->Types(editor.DMMLatText, "5");
+        user->Presses(editor.ModifyWaypointCommand);
+        EXPECT_EQ(Row(0).LatMinutes + "|" + Row(0).LongMinutes, "5|" + modified.LongMinutes);
+        EXPECT_EQ(Row(0).CoordinatesEdited, True);
+        State().WaypointTable[0].CoordinatesEdited = False;
+        user->Types(editor.DDMLongText, "9");
+        editor.DMMLatText.SetText("6");
+        user->Presses(editor.ModifyWaypointCommand);
+        EXPECT_EQ(Row(0).LatMinutes + "|" + Row(0).LongMinutes, "5|7");
+        EXPECT_EQ(Row(0).CoordinatesEdited, True);
         user->Presses(editor.OopsCommand);
     }
     ExpectSilence();

@@ -41,7 +41,12 @@ TEST_F(Saving, FileNameFollowsTheBoxesAsTheyLoseTheFocus) {
         EXPECT_EQ(editor.TransitionLabel1.Caption(), label);
         EXPECT_EQ(editor.FilenameText.Caption(), "KXYZ-DEMO1.27L.tr");
     }
-    EXPECT_EQ(Save("KXYZ-DEMO1.27L.rwy"), Saved(""));
+    Add({.fix = "A", .lat = "33"});
+    EXPECT_EQ(editor.FilenameText.Caption(), "KXYZ-DEMO1.27L.tr") << "nothing was added";
+    Add({.fix = "A", .lat = "33", .lon = "117"});
+    EXPECT_EQ(editor.FilenameText.Caption(), "KXYZ-DEMO1.27L.rwy");
+    user->Toggles(editor.RwySpecificCheck);
+    EXPECT_EQ(Save("KXYZ-DEMO1.27L.tr"), Saved(one));
 }
 
 TEST_F(Saving, NeedsANameThatAFileCanHave) {
@@ -85,7 +90,10 @@ TEST_F(Saving, AsksBeforeItOverwritesTheSameNameInACreateMode) {
     EXPECT_EQ(services.messages.Take(), std::vector{shown});
     EXPECT_EQ(services.files.Content("C:\\Tarvex\\Tarvex.INI"), "C:\\FS2000\r\nS\r\nW\r\nW\r\n");
 
-    EXPECT_EQ((OpenDP("KXYZ-DEMO1.wsd"), Save("KXYZ-DEMO1.wsd")), Saved(one));
+    for (const char* name : {"KXYZ-DEMO1.wsd", "KXYZ-DEMO1.ABC.tr", "KXYZ-DEMO1.27L.rwy"}) {
+        OpenDP(name, one);
+        EXPECT_EQ(Save(name), Saved(one));
+    }
     services.files.Put(Path("kxyz-other.wsd"), "before");
     CreateNamed("KXYZ", "OTHER");
     EXPECT_EQ(Save("KXYZ-OTHER.wsd"), Saved("W,A,,0,-33.,-117.,0,0,0,0,0,\r\n"));

@@ -104,6 +104,10 @@ TEST_F(Selecting, UpperAltitudeSurvivesOnlyWithTheBand) {
     // A second altitude alone goes to the first box and leaves the second as it was.
     EXPECT_EQ(shown(0), "At or Above & At or Below|3000  |9000  ");
     EXPECT_EQ(shown(2), "At or Above & At or Below|7000  |9000  ");
+    State().WaypointTable[2].Altitude1 = "4000";
+    State().WaypointTable[2].Altitude2 = "0";
+    EXPECT_EQ(shown(0), "At or Above & At or Below|3000  |9000  ");
+    EXPECT_EQ(shown(2), "At or Above & At or Below|4000  |");
     // While the option stays, its rule does not run, and the box out of use shows what the row holds.
     user->Picks(editor.AtAboveOption);
     EXPECT_EQ(shown(1), "At or Above|5000  |6000  ");

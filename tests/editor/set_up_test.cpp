@@ -74,6 +74,34 @@ TEST_F(SettingUp, OpensInTheHemispheresOfTheSettings) {
     }
 }
 
+TEST_F(SettingUp, TabLeadsThroughTheControlsInTheOrderOfWork) {
+    const auto walk = [&] {
+        std::string names;
+        for (std::size_t left = Editor().TabStops().size(); left > 0; --left) {
+            names += user->FocusName() + " ";
+            user->Tabs(Editor());
+        }
+        return names;
+    };
+    CreateDP();
+    EXPECT_EQ(walk(),
+              "AptNameText BasicNameText TransitionText FixNameText DDMLatText DMMLatText DDMLongText "
+              "DMMLongText Alt1Text AirspeedText AddWaypointCommand SaveCommand OopsCommand WaypointList "
+              "NAVIDText FreqText WLongOption NLatOption NoRestrictionOption ClearDataCommand "
+              "RwySpecificCheck FindFixCommand FindNavCommand AddArcCommand FindAirportCommand "
+              "CreateWaypointCommand ");
+    user->Presses(Editor().OopsCommand);
+    ModifyProcedure& editor = OpenDP("KXYZ-DEMO1.wsd", "W,A,,0,-1.5,2.5,0,0,3000,9000,3,\r\n");
+    user->PicksLine(editor.WaypointList, 0);
+    user->MovesTo(editor.FixNameText);
+    EXPECT_EQ(walk(),
+              "FixNameText DDMLatText DMMLatText DDMLongText DMMLongText Alt1Text AirspeedText Alt2Text "
+              "SaveCommand OopsCommand DeleteWaypointCommand ModifyWaypointCommand WaypointList MoveUp "
+              "MoveDown ELongOption SLatOption AtAboveAtBelowOption ClearDataCommand FindFixCommand "
+              "FindNavCommand AddArcCommand FindAirportCommand CreateWaypointCommand ");
+    ExpectSilence();
+}
+
 TEST_F(SettingUp, WhatCanNotBeOpenedSaysWhyAndStaysAsItIs) {
     const std::string path = Path("KXYZ-DEMO1.wsd");
     const std::string mendable = "W,A,,0,40.5 N,-73.5 W,0,0,0,0,0,\r\n";
@@ -142,21 +170,23 @@ TEST_F(SettingUp, ClearingTheBoxesEndsTheSelectionAndKeepsTheProcedure) {
     ModifyProcedure& editor = OpenDP("KXYZ-DEMO1.wsd",
                                      "W,A,,0,-1.5,2.5,0,250,0,5000,1,\r\n"
                                      "W,DMO,,0,-1.5,2.5,113.60,250,3000,9000,3,\r\n");
-    user->PicksLine(editor.WaypointList, 1);
-    user->MovesTo(editor.DMMLatText);
-    user->Presses(editor.ClearDataCommand);
-    EXPECT_EQ(editor.WaypointList.ListIndex(), ListBox::NoSelection);
-    EXPECT_EQ(user->FocusName(), "FixNameText");
-    EXPECT_FALSE(editor.LatEdited || editor.LongEdited);
-    EXPECT_EQ(Position(), "S/ E/");
-    for (TextBox* box : {&editor.FixNameText, &editor.NAVIDText, &editor.FreqText, &editor.Alt1Text,
-                         &editor.AirspeedText, &editor.Alt2Text}) {
-        const bool inUse = box != &editor.Alt2Text;
-        EXPECT_EQ(box->Text(), "") << box->Name();
-        EXPECT_EQ(box->Enabled(), inUse) << box->Name();
-        EXPECT_EQ(box->BackColor(), inUse ? White : Grey) << box->Name();
+    for (const int line : {0, 1}) {
+        user->PicksLine(editor.WaypointList, line);
+        user->MovesTo(editor.DMMLatText);
+        user->Presses(editor.ClearDataCommand);
+        EXPECT_EQ(editor.WaypointList.ListIndex(), ListBox::NoSelection);
+        EXPECT_EQ(user->FocusName(), "FixNameText");
+        EXPECT_FALSE(editor.LatEdited || editor.LongEdited);
+        EXPECT_EQ(Position(), "S/ E/");
+        for (TextBox* box : {&editor.FixNameText, &editor.NAVIDText, &editor.FreqText, &editor.Alt1Text,
+                             &editor.AirspeedText, &editor.Alt2Text}) {
+            const bool inUse = box != &editor.Alt2Text;
+            EXPECT_EQ(box->Text(), "") << box->Name();
+            EXPECT_EQ(box->Enabled(), inUse) << box->Name();
+            EXPECT_EQ(box->BackColor(), inUse ? White : Grey) << box->Name();
+        }
+        EXPECT_TRUE(editor.NoRestrictionOption.Value());
     }
-    EXPECT_TRUE(editor.NoRestrictionOption.Value());
     EXPECT_EQ(editor.AptNameText.Text(), "KXYZ");
     EXPECT_EQ(State().WaypointCount, 2);
     ExpectSilence();
