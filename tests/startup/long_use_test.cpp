@@ -205,7 +205,7 @@ class LongUse : public ::testing::Test {
         for (const Message& message : machine.messages.Recent()) line += " [" + message.prompt + "]";
         if (machine.Faulty()) line += " (a file operation failed)";
         trail_.push_back(std::move(line));
-        if (trail_.size() > 25) trail_.pop_front();
+        while (trail_.size() > 25) trail_.pop_front();
     }
     std::string Trail() const {
         std::string acts;
