@@ -116,6 +116,8 @@ FileListBinder::FileListBinder(NativeForm& window, FileList& list, LineList& wid
     widget.Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, [this](wxDataViewEvent&) {
         if (!keyMoves_) ToDoor();
     });
+    // The line that the keys have led to is selected before the click.
+    ActivateByClick(widget);
     widget.Bind(wxEVT_DATAVIEW_ITEM_ACTIVATED, [this](wxDataViewEvent&) { ToDoor(); });
 }
 

@@ -100,6 +100,10 @@ bool HoldsFocusOfWindow(const wxWindow& widget) {
     return focus != nullptr && (focus == own || gtk_widget_is_ancestor(focus, own));
 }
 
+void ActivateByClick(wxDataViewCtrl& list) {
+    gtk_tree_view_set_activate_on_single_click(GTK_TREE_VIEW(list.GtkGetTreeView()), TRUE);
+}
+
 #else
 
 void RunNext(std::function<void()> task) {
@@ -121,6 +125,18 @@ bool HoldsFocusOfWindow(const wxWindow& widget) {
         if (focus == &widget) return true;
     }
     return false;
+}
+
+void ActivateByClick(wxDataViewCtrl& list) {
+    list.GetMainWindow()->Bind(wxEVT_LEFT_DOWN, [&list](wxMouseEvent& press) {
+        press.Skip();
+        wxDataViewItem line;
+        wxDataViewColumn* column = nullptr;
+        list.HitTest(press.GetPosition(), line, column);
+        if (!line.IsOk() || !list.IsSelected(line)) return;
+        wxDataViewEvent activation(wxEVT_DATAVIEW_ITEM_ACTIVATED, &list, line);
+        list.HandleWindowEvent(activation);
+    });
 }
 
 #endif

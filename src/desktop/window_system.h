@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include <wx/dataview.h>
 #include <wx/window.h>
 
 // What the window systems do not have in common. All calls of a particular one stand in window_system.cpp.
@@ -24,5 +25,8 @@ void Present(wxWindow& window);
 
 // Whether the widget, or a part of it, has the focus within its window, be the window active or not.
 bool HoldsFocusOfWindow(const wxWindow& widget);
+
+// Makes a single click activate the selected line of a list, as a double click does.
+void ActivateByClick(wxDataViewCtrl& list);
 
 }  // namespace tarvex

@@ -2,7 +2,7 @@
 
 import unittest
 
-from window_driver import WindowTest, key
+from window_driver import WindowTest, key, until
 
 NAME = "KJFK-CAMRN4.wst"
 
@@ -55,6 +55,18 @@ class StoredStar(WindowTest):
             self.machine.data / "Stars" / NAME,
             rest.replace("W,CAMRN,,0,40.017303,-73.861058,0,250,", "W,CAMRN,,0,40.017303,-73.861058,0,240,"),
         )
+
+    def test_a_click_opens_the_name_that_the_keys_led_to(self):
+        program = self.start()
+        program.window("Tarvex").click("ModifySTAR")
+        picker = program.window("Procedure Select")
+        picker.expect(lambda _: picker.focused(), "the focus", "FileList")
+        key("End")
+        name = picker.lines("FileList")[-1]
+        until(lambda: picker.is_line_selected("FileList", name), f"the selection of {name}")
+        picker.click_line("FileList", name)
+        editor = program.window("Modify a Procedure")
+        editor.expect(editor.caption, "FilenameText", name)
 
     def test_exit_ends_the_program(self):
         program = self.start()

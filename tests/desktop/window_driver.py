@@ -16,7 +16,7 @@ PROJECT = Path(__file__).resolve().parents[2]
 PATIENCE = float(os.environ.get("TARVEX_PATIENCE", "30"))  # seconds until a wait counts as failed
 
 # Bits of the states of a node on the accessibility bus.
-ACTIVE, CHECKED, FOCUSED, SENSITIVE, SHOWING = 1, 4, 12, 24, 25
+ACTIVE, CHECKED, FOCUSED, SELECTED, SENSITIVE, SHOWING = 1, 4, 12, 23, 24, 25
 
 
 def until(condition, what, patience=PATIENCE):
@@ -231,6 +231,10 @@ class Window:
         """What the lines of a list show, without blanks at the end."""
         cells = (node for node in self.node(name).descendants() if node.role() == "table cell")
         return [cell.caption().rstrip() for cell in cells]
+
+    def is_line_selected(self, name, line):
+        node = self._line(name, line)
+        return node is not None and node.has(SELECTED)
 
     def focused(self):
         """The name of the control with the focus."""
