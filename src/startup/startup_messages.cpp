@@ -46,8 +46,9 @@ Message FolderNotKept(const std::string& settingsPath, const std::string& reason
 }
 
 Message NavigationDataNotRead(const std::string& simulatorPath, const std::string& reason) {
-    return {.prompt = "The navigation data in " + simulatorPath + " could not be read:" + LineEnd + reason +
-                      LineEnd + "Searches will find nothing, and the next start will end at once."};
+    const std::string place = simulatorPath.empty() ? std::string() : " in " + simulatorPath;
+    return {.prompt = "The navigation data" + place + " could not be read:" + LineEnd + reason + LineEnd +
+                      "Searches will find nothing, and the next start will end at once."};
 }
 
 Message EntriesLeftOut(const std::vector<LeftOutEntries>& leftOut) {

@@ -138,6 +138,19 @@ TEST_F(FolderScreenTest, FolderWithoutDataLeavesEmptyTables) {
     EXPECT_EQ(next.host.Stopped()->exitStatus, 1);
 }
 
+TEST_F(FolderScreenTest, DoneAtOnceKeepsNoFolder) {
+    program.Start();
+    Done();
+    EXPECT_EQ(
+        services.messages.Take(),
+        (std::vector{Message{.prompt = "The navigation data could not be read:\r\n"
+                                       "\\GIOSTAM\\navdata: no such folder\r\n"
+                                       "Searches will find nothing, and the next start will end at once.",
+                             .title = "Tarvex 2.35"}}));
+    EXPECT_EQ(Forms(), "InitialLoad");
+    EXPECT_EQ(services.files.Content(Ini), "\r\nN\r\nW\r\n");
+}
+
 TEST_F(FolderScreenTest, StaysWhileTheSettingsCannotBeWritten) {
     services.files.FailWrite(Ini, DiskFull);
     program.Start();

@@ -12,7 +12,7 @@ const std::string Data = "C:\\FS2000\\GIOSTAM\\navdata\\";
 const std::string Complete = "C:\\FS2000\r\nS\r\nE\r\nW\r\n";
 const std::string Short = "C:\\FS2000\r\nS\r\nE\r\n";
 const std::string Fresh = "C:\\FS2000\r\nN\r\nW\r\nW\r\n";
-const std::string NoFile;  // in place of a settings file's text
+const std::string NoFile = "no file";  // in place of a settings file's text
 
 struct Machine {
     TestServices services;
@@ -72,7 +72,7 @@ TEST(StartTest, OtherSettingsAreMendedFromTheRegistryOrAskedFor) {
     ExpectStart("C:\\FS2000\r\n x\r\n\r\n", "", "C:\\FS2000\r\n x\r\n\r\nW\r\n", "C:\\FS2000| x||W");
     ExpectStart(NoFile, "  c:\\fs2000 ", Fresh, "C:\\FS2000|N|W|W");
     const std::string rubbish("\0\xFF\x1A", 3);
-    for (const std::string& none : {NoFile, std::string("D:\\Other\r\nS"), rubbish})
+    for (const std::string& none : {NoFile, std::string(), std::string("D:\\Other\r\nS"), rubbish})
         ExpectStart(none, "", none, "|||");
     ExpectStart(NoFile, "   ", NoFile, "|||");
 }
