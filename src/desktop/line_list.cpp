@@ -49,8 +49,7 @@ void LineList::Put(unsigned count, TextOfLine text, IconOfLine icon) {
     model_->Put(count, std::move(text), std::move(icon));
 }
 
-int LineList::Line() const {
-    const wxDataViewItem item = GetSelection();
+int LineList::LineOf(const wxDataViewItem& item) const {
     return item.IsOk() ? static_cast<int>(model_->GetRow(item)) : NoLine;
 }
 

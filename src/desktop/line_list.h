@@ -17,7 +17,8 @@ class LineList final : public wxDataViewCtrl {
     void Put(unsigned count, TextOfLine text, IconOfLine icon = {});
 
     static constexpr int NoLine = -1;
-    int Line() const;
+    int Line() const { return LineOf(GetSelection()); }
+    int LineOf(const wxDataViewItem& item) const;
     void SelectLine(int line);  // and brings it into sight
 
   private:

@@ -107,22 +107,12 @@ void FolderListBinder::ToWidget() {
 
 FileListBinder::FileListBinder(NativeForm& window, FileList& list, LineList& widget, const wxString& spoken)
     : Binder(window, list, widget, spoken), list_(list), widget_(widget) {
-    widget.Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
-        event.Skip();
-        const int key = event.GetKeyCode();
-        keyMoves_ = key != WXK_RETURN && key != WXK_NUMPAD_ENTER && key != WXK_SPACE;
-        RunNext([this] { keyMoves_ = false; });
-    });
-    widget.Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, [this](wxDataViewEvent&) {
-        if (!keyMoves_) ToDoor();
-    });
-    // The line that the keys have led to is selected before the click.
     ActivateByClick(widget);
-    widget.Bind(wxEVT_DATAVIEW_ITEM_ACTIVATED, [this](wxDataViewEvent&) { ToDoor(); });
+    widget.Bind(wxEVT_DATAVIEW_ITEM_ACTIVATED,
+                [this](wxDataViewEvent& event) { ToDoor(widget_.LineOf(event.GetItem())); });
 }
 
-void FileListBinder::ToDoor() {
-    const int line = widget_.Line();
+void FileListBinder::ToDoor(int line) {
     if (line == LineList::NoLine) return;
     const std::string name = shown_[static_cast<std::size_t>(line)];
     Post([this, name](UserDoor& door) {

@@ -63,20 +63,18 @@ class FolderListBinder final : public Binder {
     std::vector<Line> lines_;
 };
 
-// A file is picked by a click, or by Enter or the space bar: moving along the names with the arrow keys is
-// not yet a choice.
+// A file is picked by a click or by Enter: moving along the names with the arrow keys is not yet a choice.
 class FileListBinder final : public Binder {
   public:
     FileListBinder(NativeForm& window, FileList& list, LineList& widget, const wxString& spoken);
     void ToWidget() override;
 
   private:
-    void ToDoor();
+    void ToDoor(int line);
 
     FileList& list_;
     LineList& widget_;
     std::vector<std::string> shown_;
-    bool keyMoves_ = false;
 };
 
 }  // namespace tarvex

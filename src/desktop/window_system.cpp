@@ -133,7 +133,7 @@ void ActivateByClick(wxDataViewCtrl& list) {
         wxDataViewItem line;
         wxDataViewColumn* column = nullptr;
         list.HitTest(press.GetPosition(), line, column);
-        if (!line.IsOk() || !list.IsSelected(line)) return;
+        if (!line.IsOk()) return;
         wxDataViewEvent activation(wxEVT_DATAVIEW_ITEM_ACTIVATED, &list, line);
         list.HandleWindowEvent(activation);
     });

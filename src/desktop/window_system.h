@@ -26,7 +26,7 @@ void Present(wxWindow& window);
 // Whether the widget, or a part of it, has the focus within its window, be the window active or not.
 bool HoldsFocusOfWindow(const wxWindow& widget);
 
-// Makes a single click activate the selected line of a list, as a double click does.
+// Makes a single click on a line of a list activate it, whether it is selected already or not.
 void ActivateByClick(wxDataViewCtrl& list);
 
 }  // namespace tarvex

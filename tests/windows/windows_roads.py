@@ -144,6 +144,7 @@ def open_star(first_file=(90, 51)):
     keys("Tab")
     subprocess.run(["xdotool", "type", "--delay", "30", "kjfk"], check=True)
     time.sleep(0.3)
+    keys("shift+Tab", "Home", "Down", "Up")  # moving along the names picks none
     click(picker, *first_file)
 
 
