@@ -38,7 +38,7 @@ void ListBoxBinder::ToWidget() {
 DriveListBinder::DriveListBinder(NativeForm& window, DriveList& list, wxChoice& widget,
                                  const wxString& spoken)
     : Binder(window, list, widget, spoken), list_(list), widget_(widget) {
-    for (const std::string& drive : list.Drives()) widget.Append(Shown(drive));
+    for (const std::string& drive : list.Drives()) widget.Append(Shown(NameOfRoot(drive)));
     widget.Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { ToDoor(); });
 }
 

@@ -51,6 +51,10 @@ std::string StartFolder(FileSystem& files) {
 
 }  // namespace
 
+std::string NameOfRoot(std::string_view root) {
+    return std::string(root == "\\" ? "/" : root);
+}
+
 DriveList::DriveList(Form& form, std::string_view name, int tabIndex, FileSystem& files)
     : Control(form, name, tabIndex), drives_(files.Drives()) {
     const std::string here = StartFolder(files);
@@ -128,7 +132,7 @@ std::string FolderList::List(int index) const {
 
 std::string FolderList::Name(int index) const {
     const std::string path = List(index);
-    return IsRoot(path) ? path : path.substr(path.find_last_of('\\') + 1);
+    return IsRoot(path) ? NameOfRoot(path) : path.substr(path.find_last_of('\\') + 1);
 }
 
 void FolderList::SetListIndex(int index) {

@@ -9,6 +9,9 @@
 
 namespace tarvex {
 
+// What a list shows of a drive or a root: the root of a system without drives goes by that system's own name.
+std::string NameOfRoot(std::string_view root);
+
 // The drives to choose from. Starts on the drive of the program's current folder.
 class DriveList : public Control {
   public:

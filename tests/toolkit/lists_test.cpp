@@ -106,7 +106,7 @@ TEST_F(ListsTest, RootWithoutDrivesServesAsOne) {
     slot.Unload();
     slot.Show();
     EXPECT_EQ(Form().Drive.Drive(), "\\");
-    EXPECT_EQ(Rows(), (Names{"\\", "home", "pilot", "fs"}));
+    EXPECT_EQ(Rows(), (Names{"/", "home", "pilot", "fs"}));
     EXPECT_EQ(Form().Dir.List(0), "\\home\\pilot\\fs");
 }
 
