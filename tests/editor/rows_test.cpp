@@ -75,7 +75,8 @@ TEST_F(Rows, AddTakesTheBoxesAsTheyAre) {
     State().TransferLatDecimal = -0.5;
     State().TransferLongDecimal = 117.25;
     State().RunwayTransfer = True;
-    Name("kxyz", "demo1");
+    editor.AptNameText.SetText("kxyz");
+    editor.BasicNameText.SetText("demo1");
     AddFixes(2);
     EXPECT_EQ(Fields(7), "FIX7|15|-0.5|33||117.25|117||0|0|0|0|0");
     EXPECT_EQ(editor.FilenameText.Caption(), "KXYZ-DEMO1.wsd");

@@ -98,6 +98,17 @@ TEST_F(Saving, AsksBeforeItOverwritesTheSameNameInACreateMode) {
     CreateNamed("KXYZ", "OTHER");
     EXPECT_EQ(Save("KXYZ-OTHER.wsd"), Saved("W,A,,0,-33.,-117.,0,0,0,0,0,\r\n"));
     ExpectSilence();
+
+    for (const auto& [create, name] : {std::pair{&InitialLoad::CreateSTAR, "KXYZ-DEMO1.wst"},
+                                       {&InitialLoad::CreateIAP, "KXYZ-DEMO1.wap"}}) {
+        user->Presses(Menu().*create);
+        Name("KXYZ", "DEMO1");
+        services.files.Put(State().ProcedureFolder + name, "before");
+        user->Presses(Editor().SaveCommand);
+        ExpectMessage(shown, "AptNameText");
+        ASSERT_TRUE(program->modifyProcedure.IsLoaded());
+        user->Presses(Editor().OopsCommand);
+    }
 }
 
 TEST_F(Saving, RowsThatWereReadKeepTheirDecimals) {

@@ -72,7 +72,7 @@ TEST(AltitudeBand, IsOrderedByNumberWhenThereIsASecondAltitude) {
         {"5000", "00", "00", "5000"},       {"    0", "", "    0", ""},
         {"5000", "", "", "5000"},           {"", "5000", "", "5000"},
         {"0", "5000", "0", "5000"},         {"-50", "-100", "-100", "-50"},
-        {"10", "010", "010", "10"},
+        {"10", "010", "010", "10"},         {"5000", " 0", "5000", " 0"},
     };
     for (const auto& [altitude1, altitude2, ordered1, ordered2] : cases) {
         WaypointRecord row;

@@ -70,10 +70,12 @@ class ProcedureReader : public ::testing::Test {
 };
 
 TEST_F(ProcedureReader, StoresEveryColumnAndSplitsTheCoordinates) {
+    state.WaypointTable[1].WaypointID = "BEHIND";
     EXPECT_EQ(Read(Written("W,ROBUC,,0,40.512345,-73.851234,113.60,250,3000,10000,3,\r\n")), 1);
     const WaypointRecord expected{"ROBUC", "0",        "40.512345", "40",  "30.7407", False,   "-73.851234",
                                   "73",    "51.07404", "113.60",    "250", "3000",    "10000", "3"};
     EXPECT_EQ(state.WaypointTable[0], expected);
+    EXPECT_EQ(state.WaypointTable[1].WaypointID, FixedField<10>("BEHIND"));
     EXPECT_EQ(files.Writes(), 0);
 }
 
@@ -90,6 +92,7 @@ TEST_F(ProcedureReader, SplitsEveryFormOfACoordinate) {
         {"+34.25", "34", "15"},
         {"1E1", "10", "0"},
         {"12.0000002", "12", ".000012"},
+        {".000000075", "0", ".000004"},  // a tie
         {"33.9999999999", "33", "60"},
     };
     for (const auto& [decimal, degrees, minutes] : cases) {
@@ -110,7 +113,7 @@ TEST_F(ProcedureReader, TellsRecordsFromEverythingElse) {
         {"; comments\r\n;only", {}},
         {"\r\n   \r\n\t\r\n\x01\x02\r\n \x1A", {}},
         {"; A\r\n\r\nW,A,,0,1,1,0,0,0,0,0,\r\n  "
-         "\r\n\r\nX,B,,0,1,1,0,0,0,0,0,\r\nEnd\r\nw,C,,0,1,1,0,0,0,0,0,\r\n",
+         "\r\n\r\n!,B,,0,1,1,0,0,0,0,0,\r\nEnd\r\nw,C,,0,1,1,0,0,0,0,0,\r\n",
          {"A", "B", "C"}},
         // Line ends of the old Macintosh, of Unix, and none at the end.
         {";\rW,A,,0,1,1,0,0,0,0,0,\nW,B,,0,1,1,0,0,0,0,0,\r\n\nW,C,,0,1,1,0,0,0,0,0,", {"A", "B", "C"}},
@@ -200,9 +203,9 @@ TEST_F(ProcedureReader, RewriteThatFailsLeavesFileAndTable) {
 
 TEST_F(ProcedureReader, ConvertsRunwaysOfOlderApproaches) {
     state.ProcedureMode = "I";
-    PutAirport("KXYZ09", 12);
     PutAirport("KXYZ27L", 96);
     PutAirport("KXYZ27L", 97);
+    PutAirport("KXYZ09", 12);
     const std::string lines =
         "W,KXYZ27L,,0,33.5,-118.25,0,0,0,5000,1,\r\n"
         "W,KXYZ09,,0,33.5,-118.25,0,0,0,0,0,\r\n"

@@ -42,6 +42,7 @@ class SampleTest : public ::testing::Test {
     std::string OpenedAndSaved(const Kind& kind, const std::string& name) {
         user_.Presses(program_.initialLoad.Get()->*kind.modify);
         EXPECT_TRUE(user_.PicksFile(program_.pickFile.Get()->FileList, name)) << name;
+        services_.files.Put(kind.folder + name, "\n");  // what is there in the end was saved
         EXPECT_TRUE(user_.Presses(program_.modifyProcedure.Get()->SaveCommand)) << name;
         EXPECT_FALSE(program_.modifyProcedure.IsLoaded()) << name;
         return services_.files.Content(kind.folder + name);
