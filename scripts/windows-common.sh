@@ -1,12 +1,12 @@
+# shellcheck shell=bash
 # What the Windows scripts share: where the cached wxWidgets lies, and how its source is had.
+
+# A step that fails within $(...) ends the script too: nothing half fetched is marked as complete.
+shopt -s inherit_errexit
 
 cache=${TARVEX_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/tarvex}
 
 say() { printf '%s\n' "== $*"; }
-
-as_root() {
-    if [ "$(id -u)" = 0 ]; then "$@"; else sudo "$@"; fi
-}
 
 # The MinGW prefix of an architecture name of ours.
 triplet_of() {
@@ -29,7 +29,7 @@ wx_source() {
     if [ -n "$found" ] && [ -f "$found/complete" ]; then echo "$found"; return; fi
 
     local work=$cache/source
-    rm -rf "$work" && mkdir -p "$work/lists/partial" "$work/parts" "$work/archives/partial"
+    rm -rf "$work" && mkdir -p "$work/lists/partial" "$work/parts"
     sed -n 's/^deb /deb-src /p' /etc/apt/sources.list 2>/dev/null > "$work/parts/own.list" || true
     local file
     for file in /etc/apt/sources.list.d/*.list; do
@@ -82,6 +82,7 @@ build_wx() {
         total=$(make -n 2>/dev/null | grep -c -- ' -c ' || true)
         make -j"$(nproc)" > "$cache/make-$arch.log" 2>&1 &
         local maker=$!
+        trap 'kill "$maker" 2>/dev/null || true' EXIT
         while kill -0 "$maker" 2>/dev/null; do
             sleep 20
             done_count=$(find . -name '*.o' | wc -l)
