@@ -1,6 +1,5 @@
 #include "desktop/desktop.h"
 
-#include <algorithm>
 #include <utility>
 
 #include <wx/app.h>
@@ -157,22 +156,8 @@ void Desktop::ActivatedByUser(NativeForm& window) {
     });
 }
 
-void Desktop::CloseByUser(Form& form) {
-    const std::pair<std::string_view, FormSlotBase*> slots[] = {
-        {"InitialLoad", &program_.initialLoad},
-        {"FindFS2000Form", &program_.findFS2000Form},
-        {"PickFile", &program_.pickFile},
-        {"ModifyProcedure", &program_.modifyProcedure},
-        {"FindWaypointForm", &program_.findWaypointForm},
-        {"AddARC", &program_.addARC},
-        {"CreateWaypointForm", &program_.createWaypointForm},
-        {"LatLongForm", &program_.latLongForm},
-    };
-    for (const auto& [name, slot] : slots) {
-        if (name != form.Name()) continue;
-        program_.door.CloseWindow(*slot);
-        return;
-    }
+void Desktop::CloseByUser(const Form& form) {
+    if (FormSlotBase* slot = program_.host.SlotOf(form)) program_.door.CloseWindow(*slot);
 }
 
 wxWindow* Desktop::BeforeMessage() {

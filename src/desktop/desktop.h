@@ -33,7 +33,7 @@ class Desktop final : public FormObserver {
     UserDoor& Door() { return program_.door; }
     Control* FocusOfProgram() { return program_.host.GetFocus().Current(); }
     void ActivatedByUser(NativeForm& window);
-    void CloseByUser(Form& form);
+    void CloseByUser(const Form& form);
 
     // Brackets a message box: it stands over the windows in their present state, and what was done before it
     // was not done in its light.

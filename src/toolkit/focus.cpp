@@ -62,7 +62,6 @@ void Focus::Set(Control* control) {
         control->Owner().lastFocus_ = control;
         host_.Raised(control->Owner());
     }
-    host_.Notify().FocusMoved(control);
 }
 
 }  // namespace tarvex

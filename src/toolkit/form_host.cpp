@@ -6,9 +6,14 @@
 namespace tarvex {
 
 bool FormHost::IsInUse(const Form& form) const {
-    return std::any_of(slots_.begin(), slots_.end(), [&form](const FormSlotBase* slot) {
-        return slot->Loaded() == &form && (form.Visible() || slot->loading_);
-    });
+    const FormSlotBase* slot = SlotOf(form);
+    return slot != nullptr && (form.Visible() || slot->loading_);
+}
+
+FormSlotBase* FormHost::SlotOf(const Form& form) const {
+    const auto found = std::find_if(slots_.begin(), slots_.end(),
+                                    [&form](const FormSlotBase* slot) { return slot->Loaded() == &form; });
+    return found == slots_.end() ? nullptr : *found;
 }
 
 void FormHost::RunEvent(const std::function<void()>& event) {

@@ -22,7 +22,6 @@ class FormObserver {
     virtual void FormHidden(Form&) {}
     // The form is on its way out; its object lives until the outermost event has ended.
     virtual void FormUnloaded(Form&) {}
-    virtual void FocusMoved(Control*) {}
 };
 
 // The forms of one program: which are loaded, which stands in front, which control has the focus.
@@ -35,6 +34,8 @@ class FormHost {
     Focus& GetFocus() { return focus_; }
     // Whether the form is on the screen or is being loaded.
     bool IsInUse(const Form& form) const;
+    // The slot that holds the form; null for one that is on its way out.
+    FormSlotBase* SlotOf(const Form& form) const;
     // The visible forms, the one in front last.
     const std::vector<Form*>& Visible() const { return visible_; }
 
@@ -51,8 +52,8 @@ class FormHost {
 
     // Runs one event of the outside world, or an operation within one. The outermost event takes what no
     // operation caught: a failure goes to the failure report (any other exception too, as a DeviceError), a
-    // stop ends the run. Forms that were unloaded
-    // on the way are destroyed behind it. Does nothing once the program has stopped.
+    // stop ends the run. Forms that were unloaded on the way are destroyed behind it. Does nothing once the
+    // program has stopped.
     void RunEvent(const std::function<void()>& event);
 
     // How the program stopped; nothing while it runs.
