@@ -5,7 +5,6 @@
 #include "navigation_files.h"
 #include "startup/program.h"
 #include "timing.h"
-#include "toolkit/failure.h"
 #include "toolkit/native_clock.h"
 #include "toolkit/native_file_system.h"
 #include "toolkit/native_registry.h"

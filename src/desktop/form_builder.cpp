@@ -14,7 +14,6 @@
 #include "desktop/list_binders.h"
 #include "desktop/native_form.h"
 #include "desktop/native_text.h"
-#include "desktop/window_system.h"
 
 namespace tarvex {
 

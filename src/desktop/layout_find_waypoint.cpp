@@ -2,7 +2,6 @@
 #include <wx/listbox.h>
 #include <wx/textctrl.h>
 
-#include "desktop/act_binders.h"
 #include "desktop/form_builder.h"
 #include "desktop/layouts.h"
 #include "desktop/native_form.h"

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "startup/settings_file.h"
-#include "toolkit/failure.h"
 #include "toolkit/form.h"
 #include "toolkit/simple_controls.h"
 

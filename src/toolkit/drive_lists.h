@@ -17,9 +17,8 @@ class DriveList : public Control {
   public:
     DriveList(Form& form, std::string_view name, int tabIndex, FileSystem& files);
 
-    const std::vector<std::string>& Drives() const {
-        return drives_;
-    }                                                    // as "C:\"; "\" is a root without drives
+    // As "C:\"; "\" is a root without drives.
+    const std::vector<std::string>& Drives() const { return drives_; }
     const std::string& Drive() const { return drive_; }  // an entry of Drives(); empty without any
     // Takes "C:", "C:\" or a longer text that begins so, in any case. Runs OnChange when the drive changes.
     // PathNotFound, and no change, when it is none of Drives(); no change either when OnChange fails.
@@ -87,11 +86,10 @@ class FileList : public Control {
     // that one are plain. Ends the selection.
     void SetPattern(std::string_view pattern);
 
-    const std::vector<std::string>& Lines() const {
-        return lines_;
-    }  // the names that the pattern lets through
-    int ListIndex() const { return listIndex_; }
-    // Runs OnClick when the selection changes.
+    // The names that the pattern lets through.
+    const std::vector<std::string>& Lines() const { return lines_; }
+    int ListIndex() const { return listIndex_; }  // -1: no selection
+    // -1 ends the selection. Runs OnClick when another line is selected.
     void SetListIndex(int index);
     std::string FileName() const;  // the selected name, without folder; empty without a selection
     bool TakesFocus() const override { return true; }

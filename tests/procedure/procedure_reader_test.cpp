@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "geometry/text_rules.h"
-#include "procedure/procedure_writer.h"
 #include "support/memory_file_system.h"
 
 namespace tarvex::testing {

@@ -1,8 +1,6 @@
 #include <functional>
 #include <gtest/gtest.h>
 
-#include "editor/editor_messages.h"
-#include "startup/startup_messages.h"
 #include "support/faulty_file_system.h"
 #include "support/scripted_user.h"
 #include "support/test_services.h"
