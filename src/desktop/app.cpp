@@ -33,6 +33,11 @@ bool App::OnInit() {
         std::fprintf(stderr, "tarvex: %s\n", failure.what());
         return false;
     }
+    // Windows asks before it shuts down. The question alone must close nothing, as wxWidgets would have it:
+    // with a procedure open the machine waits for the user, and no rows go with a window closed for it.
+    Bind(wxEVT_QUERY_END_SESSION, [this](wxCloseEvent& event) {
+        if (event.CanVeto() && run_->program.modifyProcedure.IsLoaded()) event.Veto();
+    });
     run_->messages.StandOver(run_->desktop);
     run_->desktop.Start();
     return true;

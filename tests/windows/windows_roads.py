@@ -21,6 +21,7 @@ WINESERVER = "/usr/lib/wine/wineserver64"
 REGISTRY_KEY = r"HKLM\Software\Microsoft\Microsoft Games\Flight Simulator\7.0"
 STAR = "KJFK-CAMRN4.wst"
 MENU, PICKER, EDITOR, FOLDER = "Tarvex", "Procedure Select", "Modify a Procedure", " "
+NEW_PROCEDURE = "Create a Procedure"
 HEADER = re.compile(rb"; This Terminal Procedure generated on \d{1,2}/\d{1,2}/\d{2,4} by Tarvex 2\.35\r\n")
 
 
@@ -277,6 +278,26 @@ def read_only_folder(machine, picture):
     return None
 
 
+def may_shut_down():
+    return subprocess.run([WINE, "wineboot", "--end-session"], capture_output=True, timeout=60).returncode == 0
+
+
+def shutting_down(machine, picture):
+    machine.set_up()
+    machine.settings(rb"C:\FS2000")
+    with machine.program() as process:
+        wait_for(MENU)
+        keys("Return")
+        wait_for(NEW_PROCEDURE)
+        require(not may_shut_down(), "Windows shuts down under an open procedure")
+        picture()
+        require(process.poll() is None and window_titled(NEW_PROCEDURE), "the procedure is closed")
+    with machine.program() as process:
+        wait_for(MENU)
+        require(may_shut_down(), "the menu alone keeps Windows from shutting down")
+        poll(lambda: process.poll() is not None, "end of the program")
+
+
 def native_program_beside_the_prefix(machine, picture):
     machine.set_up()
     registry("add", REGISTRY_KEY, "/v", "path", "/d", r"c:\fs2000")
@@ -298,6 +319,7 @@ ROADS = [
     drive_root,
     locked_file,
     read_only_folder,
+    shutting_down,
     native_program_beside_the_prefix,
 ]
 
