@@ -11,6 +11,10 @@ namespace tarvex {
 TextBoxBinder::TextBoxBinder(NativeForm& window, TextBox& box, wxTextCtrl& widget, const wxString& spoken)
     : Binder(window, box, widget, spoken), box_(box), widget_(widget) {
     widget.Bind(wxEVT_TEXT, [this](wxCommandEvent&) { ToDoor(); });
+    widget.Bind(wxEVT_SYS_COLOUR_CHANGED, [this](wxSysColourChangedEvent& event) {
+        event.Skip();
+        PutBackground();
+    });
 }
 
 void TextBoxBinder::ToDoor() {
@@ -25,10 +29,14 @@ void TextBoxBinder::ToWidget() {
     if (widget_.IsEditable() == box_.Locked()) widget_.SetEditable(!box_.Locked());
     if (background_ != box_.BackColor()) {
         background_ = box_.BackColor();
-        widget_.SetBackgroundColour(BoxBackground(background_));
-        widget_.Refresh();
+        PutBackground();
     }
     Binder::ToWidget();
+}
+
+void TextBoxBinder::PutBackground() {
+    widget_.SetBackgroundColour(BoxBackground(background_));
+    widget_.Refresh();
 }
 
 // The caret keeps its distance from the end where what stood behind it is still there, so that a refused

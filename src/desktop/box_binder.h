@@ -16,6 +16,7 @@ class TextBoxBinder final : public Binder {
   private:
     void ToDoor();
     void PutText(const wxString& text);
+    void PutBackground();
 
     TextBox& box_;
     wxTextCtrl& widget_;

@@ -70,7 +70,12 @@ wxAnyButton* FormBuilder::Put(Button& button) {
 }
 
 wxSizer* FormBuilder::PutSmall(Button& button, Glyph glyph, Label& label) {
-    auto* widget = new wxBitmapButton(ParentOf(button), wxID_ANY, GlyphImage(glyph, 2 * Gap()));
+    const int size = 2 * Gap();
+    auto* widget = new wxBitmapButton(ParentOf(button), wxID_ANY, GlyphImage(glyph, size));
+    widget->Bind(wxEVT_SYS_COLOUR_CHANGED, [widget, glyph, size](wxSysColourChangedEvent& event) {
+        event.Skip();
+        widget->SetBitmap(GlyphImage(glyph, size));
+    });
     const wxString spoken = ShownLines(label.Caption());
     window_.Bind<ButtonBinder>(button, *widget, spoken);
     auto* text = new wxStaticText(ParentOf(label), wxID_ANY, wxString());
