@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include <wx/access.h>
 #include <wx/app.h>
 
 #ifdef __WXGTK__
@@ -106,12 +107,34 @@ void ActivateByClick(wxDataViewCtrl& list) {
 
 #else
 
+namespace {
+
+// A widget as the system describes it, but for its name.
+class NamedAccess final : public wxAccessible {
+  public:
+    NamedAccess(wxWindow* widget, const wxString& name) : wxAccessible(widget), name_(name) {}
+
+    wxAccStatus GetName(int child, wxString* name) override {
+        if (child != wxACC_SELF) return wxACC_NOT_IMPLEMENTED;
+        *name = name_;
+        return wxACC_OK;
+    }
+
+  private:
+    wxString name_;
+};
+
+}  // namespace
+
 void RunNext(std::function<void()> task) {
     wxTheApp->CallAfter(std::move(task));
 }
 
-void NameForAccess(wxWindow& widget, const std::string& id, const wxString&) {
+void NameForAccess(wxWindow& widget, const std::string& id, const wxString& spoken) {
     widget.SetName(id);
+    // What shows a text of its own is called by it, and what describes its own lines must go on doing so.
+    if (spoken.empty() || !widget.GetLabel().empty() || widget.GetOrCreateAccessible() != nullptr) return;
+    widget.SetAccessible(new NamedAccess(&widget, spoken));
 }
 
 void MarkAsAlert(wxWindow&) {}
