@@ -148,7 +148,7 @@ void TryFile(std::string_view text, std::size_t file) {
                 {plain.entries[i].id, plain.entries[i].latitude, plain.entries[i].longitude});
     }
     if (!plain.entries.empty()) CheckSearch(tables, file, plain.entries);
-    Require(files.Written().empty(), "navigation files are only read");
+    Require(files.Writes() == 0, "navigation files are only read");
 }
 
 }  // namespace

@@ -68,15 +68,15 @@ std::optional<Reading> Read(std::string_view text, const char* mode, bool fullDi
     } catch (const Failure& failure) {
         Require(failure.Reason().find(Path) != std::string::npos, "a failure names the file");
         Require(state.WaypointCount == KeptCount && KeptFrom(state, 0), "a failure leaves the table alone");
-        Require(files.Written().empty() && files.Content(Path) == text, "a failure leaves the file alone");
+        Require(files.Writes() == 0 && files.Content(Path) == text, "a failure leaves the file alone");
         return std::nullopt;
     }
     Require(state.WaypointCount >= 0 && state.WaypointCount <= MaxWaypoints, "the rows fit the table");
     Require(KeptFrom(state, state.WaypointCount), "rows behind the last one stay");
-    for (const auto& path : files.Written()) Require(path == Path, "only the file itself is written", {path});
+    Require(files.Files("C:\\P").size() == 1, "only the file itself is written");
     const auto begin = state.WaypointTable.begin();
     const auto end = begin + state.WaypointCount;
-    Reading reading{Rows(begin, end), files.Content(Path), !files.Written().empty()};
+    Reading reading{Rows(begin, end), files.Content(Path), files.Writes() != 0};
     std::fill(begin, end, KeptRow());
     return reading;
 }

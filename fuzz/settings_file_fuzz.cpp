@@ -56,7 +56,7 @@ void TryInput(std::string_view input) {
         Require(read == (LinesOf(input) >= lines), "a file is long enough exactly if it has the lines");
         if (read) CheckWritten(settings, lines);
     }
-    Require(files.Written().empty() && files.Content(Path) == input, "reading writes nothing");
+    Require(files.Writes() == 0 && files.Content(Path) == input, "reading writes nothing");
 
     const std::string path = SettingsPathIn(input);
     const std::string folder = path.substr(0, path.size() - std::string_view("Tarvex.INI").size());
