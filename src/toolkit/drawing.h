@@ -54,7 +54,7 @@ struct Target {
 };
 
 struct Line {
-    std::vector<Point> points;
+    std::vector<Point> points{};
     Role role = Role::Route;
     bool dashed = false;
     bool closed = false;
@@ -67,20 +67,20 @@ enum class Glyph { Fix, Vor, Ndb, Runway, Waypoint, Airport, Navaid, Plus, Minus
 
 struct Symbol {
     Glyph glyph = Glyph::Fix;
-    Point at;          // its middle
+    Point at{};        // its middle
     double size = 10;  // of the square that holds it
     Role role = Role::Route;
     bool hollow = false;
     double turn = 0;  // radians clockwise
-    Target target;
+    Target target{};
 };
 
 // A line of words.
 struct Words {
     enum class Align { Left, Centre, Right };
 
-    std::string text;  // UTF-8
-    Point at;          // left end, middle or right end of the line, at half its height
+    std::string text{};  // UTF-8
+    Point at{};          // left end, middle or right end of the line, at half its height
     Align align = Align::Left;
     Role role = Role::Route;
     double size = 11;  // height of the letters' line
@@ -88,7 +88,7 @@ struct Words {
     bool underlined = false;  // at or above
     bool overlined = false;   // at or below
     double turn = 0;          // radians clockwise round `at`
-    Target target;
+    Target target{};
 };
 
 using DrawnItem = std::variant<Line, Symbol, Words>;
