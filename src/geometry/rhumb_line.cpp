@@ -15,6 +15,19 @@ bool IsBetweenPoles(double latitude) {
     return std::fabs(latitude) < Pi / 2 - PoleMargin;
 }
 
+// Exact at a pole, and good to all digits beside it.
+double CosineOfLatitude(double degrees) {
+    return std::sin((90 - std::fabs(degrees)) * RadiansPerDegree);
+}
+
+// East positive, above -180 up to 180. Over the date line each half is exact.
+double LongitudeChange(double from, double to) {
+    const double change = to - from;
+    if (change > 180) return (to - 180) - (from + 180);
+    if (change <= -180) return (to + 180) - (from - 180);
+    return change;
+}
+
 struct DegreesAndMinutes {
     std::string degrees;
     std::string minutes;
@@ -47,6 +60,22 @@ std::optional<RhumbPoint> RhumbDestination(const RhumbPoint& start, double dista
     const double q = std::fabs(lat - lat1) < RhumbTolerance ? std::cos(lat1) : (lat - lat1) / dphi;
     const double dlon = -distance * std::sin(course) / q;
     return RhumbPoint{lat, PositiveModulus(dlon + start.longitude + Pi, TwoPi) - Pi};
+}
+
+RhumbLeg RhumbLegBetween(const Position& from, const Position& to) {
+    const double north = to.latitude - from.latitude;
+    const double east = LongitudeChange(from.longitude, to.longitude);
+    const double cosFrom = CosineOfLatitude(from.latitude);
+    double stretched = 0;  // `north` as a Mercator map has it, degrees
+    double narrowing = cosFrom;
+    if (north != 0) {
+        const double sines =
+            2 * CosineOfLatitude((from.latitude + to.latitude) / 2) * std::sin(north / 2 * RadiansPerDegree);
+        stretched = std::asinh(sines / (cosFrom * CosineOfLatitude(to.latitude))) * DegreesPerRadian;
+        narrowing = north / stretched;
+    }
+    const double course = std::atan2(east, stretched) * DegreesPerRadian;
+    return {course < 0 ? std::fmod(course + 360, 360) : course, std::hypot(north, narrowing * east) * 60};
 }
 
 PositionTexts PositionTextsOf(const RhumbPoint& point) {

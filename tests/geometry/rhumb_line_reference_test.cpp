@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <iomanip>
 #include <random>
 
 #include "geometry/arc_layout.h"
@@ -68,6 +69,36 @@ TEST(RhumbLineReferenceTest, AgreesWithGeographicLib) {
         }
         EXPECT_GT(compared, 5000) << test.name;
         EXPECT_LT(worst, test.tolerance) << test.name;
+    }
+}
+
+double WithinLimits(double value, double limit) {
+    return std::clamp(value, -limit, limit);
+}
+
+// Both ends anywhere, and the second far off, near, on the parallel, on the meridian or over the date line.
+TEST(RhumbLineReferenceTest, LegsAgreeWithGeographicLib) {
+    const GeographicLib::Rhumb reference(1, 0);
+    std::mt19937_64 random(40005);
+    const auto any = [&](double most) { return std::uniform_real_distribution<double>(-most, most)(random); };
+    const auto small = [&] { return std::copysign(std::pow(10, any(1.5) - 1.5), any(1)); };
+    for (int run = 0; run < 60000; ++run) {
+        const double mostLatitude = run % 3 ? 89 : 89.999999;
+        const Position from{run % 5 ? any(mostLatitude) : WithinLimits(90 - small(), mostLatitude),
+                            run % 7 ? any(180) : std::copysign(180 - std::fabs(small()), any(1))};
+        Position to{any(mostLatitude), any(180)};
+        if (run % 2) to.latitude = WithinLimits(from.latitude + (run % 4 == 1 ? small() : 0), mostLatitude);
+        if (run % 11 > 4) to.longitude = std::remainder(from.longitude + (run % 11 > 5 ? small() : 0), 360);
+        double miles = 0;
+        double course = 0;
+        reference.Inverse(from.latitude, from.longitude, to.latitude, to.longitude, miles, course);
+        miles /= RadiansPerNauticalMile;
+        const RhumbLeg leg = RhumbLegBetween(from, to);
+        SCOPED_TRACE(testing::Message() << std::setprecision(17) << from.latitude << " " << from.longitude
+                                        << " to " << to.latitude << " " << to.longitude);
+        ASSERT_NEAR(leg.miles, miles, miles * 1e-9);
+        ASSERT_NEAR(std::remainder(leg.course - course, 360), 0, 1e-9);
+        ASSERT_TRUE(leg.course >= 0 && leg.course < 360) << leg.course;
     }
 }
 

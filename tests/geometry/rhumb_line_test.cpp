@@ -61,5 +61,50 @@ TEST(RhumbLineTest, PolesEndTheLine) {
     }
 }
 
+TEST(RhumbLineTest, Legs) {
+    const struct {
+        Position from, to;
+        double course, miles;
+    } cases[] = {
+        {{33.5, -117.25}, {33.5, -117.25}, 0, 0},
+        {{0, 179.5}, {0, -179.5}, 90, 60},
+        {{0, -179.5}, {0, 179.5}, 270, 60},
+        {{60, 10}, {60, 12}, 90, 60},
+        {{0, -90}, {0, 90}, 90, 10800},  // as long westward
+        {{0, 90}, {0, -90}, 90, 10800},
+        {{89, 10}, {90, 100}, 0, 60},
+        {{-90, 10}, {-89, -100}, 0, 60},
+        {{90, 0}, {-90, 50}, 180, 10800},
+        {{90, 0}, {90, 50}, 90, 0},
+    };
+    for (const auto& test : cases) {
+        const RhumbLeg leg = RhumbLegBetween(test.from, test.to);
+        EXPECT_NEAR(leg.course, test.course, 1e-12) << test.from.latitude << " " << test.from.longitude;
+        EXPECT_NEAR(leg.miles, test.miles, 1e-9) << test.from.latitude << " " << test.from.longitude;
+    }
+}
+
+// As far as the direct problem has digits.
+TEST(RhumbLineTest, LegsLeadBack) {
+    for (const double latitude : {-75.0, -33.5, 0.0, 1e-9, 51.25, 80.0}) {
+        for (const double longitude : {-180.0, -179.95, 0.0, 117.25, 179.99}) {
+            for (const double course : {0.0, 30.0, 90.0, 135.5, 180.0, 270.0, 359.5}) {
+                for (const double miles : {0.5, 10.0, 500.0}) {
+                    const auto end =
+                        RhumbDestination(RhumbPointAt(latitude, longitude), miles * RadiansPerNauticalMile,
+                                         course * RadiansPerDegree);
+                    ASSERT_TRUE(end);
+                    const RhumbLeg leg = RhumbLegBetween(
+                        {latitude, longitude},
+                        {end->latitude * DegreesPerRadian, -end->longitude * DegreesPerRadian});
+                    EXPECT_NEAR(leg.miles, miles, 1e-7);
+                    EXPECT_NEAR(std::remainder(leg.course - course, 360), 0, 1e-7)
+                        << latitude << " " << longitude << " " << course << " " << miles;
+                }
+            }
+        }
+    }
+}
+
 }  // namespace
 }  // namespace tarvex
