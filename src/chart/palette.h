@@ -25,6 +25,7 @@ class Palette {
     using Inks = std::array<Ink, static_cast<std::size_t>(Role::Paper) + 1>;  // in the order of the roles
     explicit constexpr Palette(const Inks& inks) : inks_(inks) {}
 
+    Ink& operator[](Role role) { return inks_[static_cast<std::size_t>(role)]; }
     const Ink& operator[](Role role) const { return inks_[static_cast<std::size_t>(role)]; }
 
   private:

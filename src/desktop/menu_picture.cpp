@@ -1,22 +1,17 @@
 #include "desktop/menu_picture.h"
 
 #include <array>
+#include <cmath>
 #include <memory>
+#include <numbers>
 
 #include <wx/dcbuffer.h>
-#include <wx/graphics.h>
 
-#include "desktop/glyphs.h"
+#include "desktop/painter.h"
 
 namespace tarvex {
 
 namespace {
-
-const wxColour SkyAbove(16, 42, 72);
-const wxColour SkyBelow(44, 105, 158);
-const wxColour Ink(255, 255, 255);
-const wxColour FaintInk(255, 255, 255, 38);
-const wxColour RouteInk(255, 205, 110);
 
 struct RoutePoint {
     double x, y;  // shares of the picture's width and height
@@ -29,39 +24,68 @@ constexpr std::array<RoutePoint, 4> Route = {{
     {0.74, 0.68, Glyph::Navaid},
     {0.91, 0.78, Glyph::Airport},
 }};
+constexpr std::size_t Navaid = 2;
 
-void DrawRings(wxGraphicsContext& canvas, double x, double y, double step) {
-    canvas.SetPen(canvas.CreatePen(wxGraphicsPenInfo(FaintInk, 1)));
-    canvas.SetBrush(wxNullBrush);
-    for (int ring = 1; ring <= 5; ++ring) {
-        const double radius = ring * step;
-        canvas.DrawEllipse(x - radius, y - radius, 2 * radius, 2 * radius);
-    }
+Point Place(const RoutePoint& point, const Size& size) {
+    return {point.x * size.width, point.y * size.height};
 }
 
-void DrawRoute(wxGraphicsContext& canvas, const wxSize& size, double line) {
-    std::array<wxPoint2DDouble, Route.size()> points;
-    for (std::size_t i = 0; i < Route.size(); ++i) points[i] = {Route[i].x * size.x, Route[i].y * size.y};
-    canvas.SetPen(canvas.CreatePen(wxGraphicsPenInfo(RouteInk, line * 0.14)));
-    for (std::size_t i = 1; i < points.size(); ++i) {
-        // The line ends where the symbols begin.
-        wxPoint2DDouble step = points[i] - points[i - 1];
-        step.SetVectorLength(line * 0.75);
-        const auto from = points[i - 1] + step;
-        const auto to = points[i] - step;
-        canvas.StrokeLine(from.m_x, from.m_y, to.m_x, to.m_y);
+std::vector<Point> Ring(Point middle, double radius) {
+    constexpr int Corners = 72;
+    std::vector<Point> points;
+    for (int i = 0; i < Corners; ++i) {
+        const double angle = 2 * std::numbers::pi * i / Corners;
+        points.push_back({middle.x + radius * std::cos(angle), middle.y + radius * std::sin(angle)});
     }
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        DrawGlyph(canvas, Route[i].glyph, points[i].m_x - line / 2, points[i].m_y - line / 2, line, Ink);
+    return points;
+}
+
+// The line ends where the symbols begin.
+Line Leg(Point from, Point to, double gap) {
+    const double share = gap / std::hypot(to.x - from.x, to.y - from.y);
+    const Point step{(to.x - from.x) * share, (to.y - from.y) * share};
+    return {.points = {{from.x + step.x, from.y + step.y}, {to.x - step.x, to.y - step.y}},
+            .role = Role::Mark};
+}
+
+// `line` is the height of a line of text.
+Drawing MenuDrawing(const Size& size, double line, const std::string& title, const std::string& subtitle) {
+    Drawing drawing{size, {}};
+    auto& items = drawing.items;
+    items.push_back(Line{.points = {{0, 0}, {size.width, 0}, {size.width, size.height}, {0, size.height}},
+                         .role = Role::Sky,
+                         .filled = true});
+    for (int ring = 5; ring > 0; --ring) {
+        items.push_back(Line{.points = Ring(Place(Route[Navaid], size), ring * 1.9 * line),
+                             .role = Role::Land,
+                             .filled = true});
     }
+    for (std::size_t i = 1; i < Route.size(); ++i) {
+        items.push_back(Leg(Place(Route[i - 1], size), Place(Route[i], size), line * 0.75));
+    }
+    for (const RoutePoint& point : Route) {
+        items.push_back(Symbol{.glyph = point.glyph,
+                               .at = Place(point, size),
+                               .size = line,
+                               .role = Role::Paper,
+                               .hollow = true});
+    }
+    items.push_back(Words{.text = title,
+                          .at = {line * 1.4, line * 3.4},
+                          .role = Role::Paper,
+                          .size = line * 2.1,
+                          .bold = true});
+    items.push_back(
+        Words{.text = subtitle, .at = {line * 1.4, line * 5.6}, .role = Role::Paper, .size = line * 0.8});
+    return drawing;
 }
 
 }  // namespace
 
-MenuPicture::MenuPicture(wxWindow* parent, const wxString& title, const wxString& subtitle)
+MenuPicture::MenuPicture(wxWindow* parent, std::string title, std::string subtitle)
     : wxPanel(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE | wxFULL_REPAINT_ON_RESIZE),
-      title_(title),
-      subtitle_(subtitle) {
+      title_(std::move(title)),
+      subtitle_(std::move(subtitle)) {
     SetBackgroundStyle(wxBG_STYLE_PAINT);
     SetMinSize({GetCharHeight() * 30, GetCharHeight() * 9});
     Bind(wxEVT_PAINT, &MenuPicture::OnPaint, this);
@@ -71,20 +95,11 @@ void MenuPicture::OnPaint(wxPaintEvent&) {
     wxAutoBufferedPaintDC paper(this);
     const std::unique_ptr<wxGraphicsContext> canvas(wxGraphicsContext::Create(paper));
     const wxSize size = GetClientSize();
-    const double line = GetCharHeight();
-
-    canvas->SetPen(wxNullPen);
-    canvas->SetBrush(canvas->CreateLinearGradientBrush(0, 0, 0, size.y, SkyAbove, SkyBelow));
-    canvas->DrawRectangle(0, 0, size.x, size.y);
-    DrawRings(*canvas, Route[2].x * size.x, Route[2].y * size.y, line * 1.9);
-    DrawRoute(*canvas, size, line);
-
-    canvas->SetFont(GetFont().Scaled(2.6f).Bold(), Ink);
-    canvas->DrawText(title_, line * 1.4, line * 2.0);
-    double width = 0, height = 0;
-    canvas->GetTextExtent(title_, &width, &height);
-    canvas->SetFont(GetFont(), wxColour(255, 255, 255, 215));
-    canvas->DrawText(subtitle_, line * 1.4, line * 2.3 + height);
+    const Drawing drawing = MenuDrawing({static_cast<double>(size.x), static_cast<double>(size.y)},
+                                        GetCharHeight(), title_, subtitle_);
+    Palette palette = DarkPalette();
+    palette[Role::Page].opacity = 0;  // the symbols stand on the sky
+    Painter(*canvas, palette).Paint(drawing);
 }
 
 }  // namespace tarvex

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include <wx/panel.h>
 
 namespace tarvex {
@@ -7,13 +9,13 @@ namespace tarvex {
 // The picture over the main menu: an arrival from the air, drawn as on a chart.
 class MenuPicture final : public wxPanel {
   public:
-    MenuPicture(wxWindow* parent, const wxString& title, const wxString& subtitle);
+    MenuPicture(wxWindow* parent, std::string title, std::string subtitle);
 
   private:
     void OnPaint(wxPaintEvent& event);
 
-    wxString title_;
-    wxString subtitle_;
+    std::string title_;
+    std::string subtitle_;
 };
 
 }  // namespace tarvex

@@ -13,16 +13,34 @@ wxColour Mixed(const wxColour& a, const wxColour& b, double shareOfB) {
     return {mix(a.Red(), b.Red()), mix(a.Green(), b.Green()), mix(a.Blue(), b.Blue())};
 }
 
+wxColour Page() {
+    return wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE);
+}
+
+wxColour TextInk() {
+    return wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT);
+}
+
+bool IsDark() {
+    return Page().GetLuminance() < TextInk().GetLuminance();
+}
+
 }  // namespace
 
 wxColour BoxBackground(Colour colour) {
     if (colour == White) return wxNullColour;
-    const wxColour page = wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE);
-    const wxColour ink = wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT);
     // A box out of use must not outshine those in use, which are darker than the page in a dark theme.
-    const bool dark = page.GetLuminance() < ink.GetLuminance();
     const double share = colour == LightGrey ? 0.03 : 0.10;
-    return Mixed(page, ink, dark ? share / 2 : share);
+    return Mixed(Page(), TextInk(), IsDark() ? share / 2 : share);
+}
+
+const Palette& ThemePalette() {
+    return IsDark() ? DarkPalette() : LightPalette();
+}
+
+Palette TextPalette() {
+    const wxColour ink = TextInk();
+    return Palette(Ink{(std::uint32_t{ink.Red()} << 16) | (std::uint32_t{ink.Green()} << 8) | ink.Blue()});
 }
 
 }  // namespace tarvex
