@@ -82,6 +82,7 @@ class ModifyProcedure : public Form {
     Label Label5{*this, "Label5", "Find Fix", 52};
     Button FindAirportCommand{*this, "FindAirportCommand", "", 56};
     Label Label8{*this, "Label8", "Find Airport", 57};
+    Label RowsLabel{*this, "RowsLabel", "", 60};  // rows in use, of all there are; red when few are left
 
     // The latitude, and the longitude, boxes were left with an accepted text since the flag was last cleared.
     Flag LatEdited = False;
@@ -162,6 +163,7 @@ class ModifyProcedure : public Form {
     void KeepHemispheres();
     void SaveFailed(const Failure& failure);
 
+    void ShowRowsInUse();
     // Exchanges the selected row with its neighbour, one up (-1) or down (1), and selects it there.
     void MoveSelected(int by);
 

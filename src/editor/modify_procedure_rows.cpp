@@ -11,6 +11,8 @@ namespace tarvex {
 
 namespace {
 
+constexpr int ManyRows = MaxWaypoints - 5;
+
 std::string_view OrZero(const TextBox& box) {
     return box.Text().empty() ? "0" : std::string_view(box.Text());
 }
@@ -83,12 +85,20 @@ const Message* Unmodifiable(const ModifyProcedure& form) {
 }  // namespace
 
 void ModifyProcedure::ConnectRows() {
+    ShowRowsInUse();
+    WaypointList.OnCount = [this] { ShowRowsInUse(); };
     WaypointList.OnClick = [this] { WaypointList_Click(); };
     AddWaypointCommand.OnClick = [this] { AddWaypointCommand_Click(); };
     ModifyWaypointCommand.OnClick = [this] { ModifyWaypointCommand_Click(); };
     DeleteWaypointCommand.OnClick = [this] { DeleteWaypointCommand_Click(); };
     MoveUp.OnClick = [this] { MoveUp_Click(); };
     MoveDown.OnClick = [this] { MoveDown_Click(); };
+}
+
+void ModifyProcedure::ShowRowsInUse() {
+    const int rows = WaypointList.ListCount();
+    RowsLabel.SetCaption(NumberText(rows) + " of " + NumberText(MaxWaypoints));
+    RowsLabel.SetForeColor(rows >= ManyRows ? Red : Black);
 }
 
 void ModifyProcedure::AddWaypointCommand_Click() {

@@ -36,7 +36,10 @@ class FindWaypointForm : public Form {
 
     void Form_Load() override;
     Button* WayOut() override { return &GoBackCommand; }
-    std::vector<Shortcut> Shortcuts() override { return {{ShortcutKey::Enter, &SearchText, &SearchCommand}}; }
+    std::vector<Shortcut> Shortcuts() override {
+        return {{ShortcutKey::Enter, &SearchText, &SearchCommand},
+                {ShortcutKey::Enter, &WaypointListBox, &AddWaypoint}};
+    }
     void SearchCommand_Click();
     void WaypointListBox_Click();
     void AddWaypoint_Click();

@@ -29,6 +29,10 @@ void PickFile::PickICAO_Change() {
     FileList.SetPattern(PickICAO.Text() + "*");
 }
 
+void PickFile::PickOnlyFile() {
+    if (FileList.Lines().size() == 1) FileList.SetListIndex(0);
+}
+
 void PickFile::FileList_Click() {
     SharedState& state = program_.state;
     state.ProcedureFileName = FileList.FileName();

@@ -22,11 +22,18 @@ class PickFile : public Form {
 
     void Form_Load() override;
     Button* WayOut() override { return &DoneCommand; }
+    std::vector<Shortcut> Shortcuts() override {
+        return {{ShortcutKey::Enter, &PickICAO, nullptr, [this] { PickOnlyFile(); }}};
+    }
+    TextBox* BoxOfLetters() override { return &PickICAO; }
     void PickICAO_Change();
     void FileList_Click();
     void DoneCommand_Click();
 
   private:
+    // Picks the file that is left in the list, if it is the only one.
+    void PickOnlyFile();
+
     Program& program_;
     std::string folder_;  // that the list shows
     std::string mode_;    // in which its procedures open

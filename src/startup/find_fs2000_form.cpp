@@ -96,6 +96,7 @@ void FindFS2000Form::LoadTables() {
 
 void FindFS2000Form::SetSimulatorPath(const std::string& folder) {
     program_.state.SimulatorPath = folder;
+    Dir1.ShowChosen(folder);
     if (folder.empty()) {
         DataHintLabel.SetCaption(NoFolderHint());
     } else if (HasNavigationData(program_.platform.files, folder)) {

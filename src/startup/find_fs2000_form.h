@@ -22,6 +22,7 @@ class FindFS2000Form : public Form {
     DriveList Drive1;
     FolderList Dir1;
     Label DataHintLabel{*this, "DataHintLabel", ""};  // whether the folder chosen holds the add-on's data
+    Label WayBackLabel{*this, "WayBackLabel", "The folder can be chosen again by deleting Tarvex.INI."};
     Button FindDoneCommand{*this, "FindDoneCommand", "Done", 2};
 
     void Form_Load() override;

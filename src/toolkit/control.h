@@ -15,6 +15,7 @@ inline constexpr Colour White = 0xFFFFFF;
 inline constexpr Colour Grey = 0xC0C0C0;
 inline constexpr Colour LightGrey = 0xE0E0E0;
 inline constexpr Colour Black = 0x000000;
+inline constexpr Colour Red = 0xFF0000;
 
 // A named control of a form: a plain object that a native widget may mirror. A property that changes runs the
 // rules that belong to the change at once and within the call, whoever made it.

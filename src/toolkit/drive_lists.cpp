@@ -144,6 +144,18 @@ void FolderList::SetListIndex(int index) {
     Run(OnClick);
 }
 
+void FolderList::ShowChosen(std::string_view path) {
+    chosen_ = path;
+    Changed();
+}
+
+std::optional<int> FolderList::ChosenIndex() const {
+    for (int index = FirstIndex(); index < ListCount(); ++index) {
+        if (EqualFolded(List(index), chosen_)) return index;
+    }
+    return std::nullopt;
+}
+
 FileList::FileList(Form& form, std::string_view name, int tabIndex, FileSystem& files)
     : Control(form, name, tabIndex), files_(files) {}
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -57,6 +58,10 @@ class FolderList : public Control {
     int ListIndex() const { return listIndex_; }
     // Runs OnClick when the selection changes.
     void SetListIndex(int index);
+    // The folder that is shown as chosen where the list has a row for it. Empty: none.
+    void ShowChosen(std::string_view path);
+    // The index of that row, if there is one.
+    std::optional<int> ChosenIndex() const;
     bool TakesFocus() const override { return true; }
     using Control::Name;
 
@@ -71,6 +76,7 @@ class FolderList : public Control {
     std::vector<std::string> above_;  // full paths, the nearest first
     std::vector<std::string> below_;  // names, sorted
     int listIndex_ = OpenFolder;
+    std::string chosen_;
 };
 
 // The plain files of one folder, sorted by name without regard to case.

@@ -11,14 +11,16 @@ namespace tarvex {
 
 class Button;
 class FormHost;
+class TextBox;
 
 enum class ShortcutKey { Delete, CtrlUp, CtrlDown, CtrlS, Enter };
 
-// A key of a form that presses a button of it.
+// A key of a form that presses a button of it, or does something else.
 struct Shortcut {
     ShortcutKey key;
     const Control* where;  // the control that must have the focus; null for any of the form
-    Button* button;
+    Button* button;        // null: the key does `act`
+    std::function<void()> act = {};
 };
 
 // A screen: a logic class over named controls. It exists while it is loaded; see FormSlot for its life.
@@ -48,6 +50,8 @@ class Form {
     // The button that Escape presses; null for none.
     virtual Button* WayOut() { return nullptr; }
     virtual std::vector<Shortcut> Shortcuts() { return {}; }
+    // The box that takes what is typed while a list of the form has the focus; null for none.
+    virtual TextBox* BoxOfLetters() { return nullptr; }
 
     // Called after every change of the caption; for the native window.
     void Observe(std::function<void()> observer) { observer_ = std::move(observer); }

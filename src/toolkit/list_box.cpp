@@ -8,6 +8,7 @@ void ListBox::SetListIndex(int index) {
     if (index < NoSelection || index >= ListCount()) throw Failure(BadArgument, Name() + " has no such line");
     if (listIndex_ == index) return;
     listIndex_ = index;
+    if (index != NoSelection) newestLine_ = index;
     Changed();
     Run(OnClick);
 }
@@ -24,7 +25,8 @@ void ListBox::AddItem(std::string_view text, int index) {
     if (index < 0 || index > ListCount()) throw Failure(BadArgument, Name() + " has no such line");
     lines_.emplace(lines_.begin() + index, text);
     if (listIndex_ >= index) ++listIndex_;
-    Changed();
+    newestLine_ = index;
+    CountChanged();
 }
 
 void ListBox::RemoveItem(int index) {
@@ -35,7 +37,8 @@ void ListBox::RemoveItem(int index) {
     } else if (listIndex_ > index) {
         --listIndex_;
     }
-    Changed();
+    newestLine_ = NoSelection;
+    CountChanged();
 }
 
 void ListBox::Clear() {
@@ -45,7 +48,13 @@ void ListBox::Clear() {
 void ListBox::SetLines(std::vector<std::string> lines) {
     lines_ = std::move(lines);
     listIndex_ = NoSelection;
+    newestLine_ = NoSelection;
+    CountChanged();
+}
+
+void ListBox::CountChanged() const {
     Changed();
+    Run(OnCount);
 }
 
 }  // namespace tarvex

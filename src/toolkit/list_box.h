@@ -35,13 +35,21 @@ class ListBox : public Control {
     // Replaces all lines, and ends the selection without OnClick.
     void SetLines(std::vector<std::string> lines);
 
+    // The line that a window brings into sight: the one that was added or selected last. NoSelection when
+    // that has gone, or when all lines were replaced since.
+    int NewestLine() const { return newestLine_; }
+
     bool TakesFocus() const override { return true; }
 
     std::function<void()> OnClick;
+    std::function<void()> OnCount;  // lines were added or taken away
 
   private:
+    void CountChanged() const;
+
     std::vector<std::string> lines_;
     int listIndex_ = NoSelection;
+    int newestLine_ = NoSelection;
 };
 
 }  // namespace tarvex

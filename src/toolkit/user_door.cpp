@@ -22,11 +22,16 @@ std::string WithinLimit(std::string_view before, std::string_view typed, std::si
     std::size_t tail = 0;
     while (tail < common - head && before[before.size() - 1 - tail] == typed[typed.size() - 1 - tail]) ++tail;
     const std::size_t kept = head + tail;
-    const std::size_t room = limit > kept ? limit - kept : 0;
+    const std::string_view behind = typed.substr(typed.size() - tail);
+    const std::size_t solid = kept - (tail - (behind.find_last_not_of(' ') + 1));
+    const std::size_t room = limit > solid ? limit - solid : 0;
     const std::size_t put = std::min(room, typed.size() - kept);
     if (put == 0 && before.size() > kept)
         return std::string(before);  // an exchange that has no room changes nothing
-    return std::string(typed.substr(0, head + put)) + std::string(typed.substr(typed.size() - tail));
+    std::string result(typed.substr(0, head + put));
+    result += behind;
+    result.resize(std::min(result.size(), std::max(limit, kept)));
+    return result;
 }
 
 }  // namespace
@@ -72,6 +77,12 @@ bool UserDoor::PickLine(ListBox& list, int index) {
     return Act(list, [&] { list.SetListIndex(index); });
 }
 
+bool UserDoor::OpenLine(ListBox& list, int index) {
+    bool opened = false;
+    host_.RunEvent([&] { opened = PickLine(list, index) && Key(list.Owner(), ShortcutKey::Enter); });
+    return opened;
+}
+
 bool UserDoor::PickDrive(DriveList& list, std::string_view drive) {
     return Act(list, [&] { list.SetDrive(drive); });
 }
@@ -106,16 +117,23 @@ bool UserDoor::Escape(Form& form) {
 
 bool UserDoor::Key(Form& form, ShortcutKey key) {
     Control* before = host_.GetFocus().Current();
+    if (before != nullptr && &before->Owner() != &form) return false;
     const auto shortcuts = form.Shortcuts();
     const auto found = std::find_if(shortcuts.begin(), shortcuts.end(), [&](const Shortcut& shortcut) {
         return shortcut.key == key && (shortcut.where == nullptr || shortcut.where == before);
     });
     if (found == shortcuts.end()) return false;
     host_.RunEvent([&] {
+        if (found->button == nullptr) return found->act();
         if (!Press(*found->button) || !OnScreen(host_, form)) return;
-        if (found->button->HasFocus() && before != nullptr && &before->Owner() == &form) before->SetFocus();
+        if (found->button->HasFocus() && before != nullptr) before->SetFocus();
     });
     return true;
+}
+
+bool UserDoor::TypeBeside(Form& form, std::string_view characters) {
+    TextBox* box = form.BoxOfLetters();
+    return box != nullptr && Type(*box, box->Text() + std::string(characters));
 }
 
 bool UserDoor::Activate(Form& form) {

@@ -20,12 +20,14 @@ class UserDoor {
     explicit UserDoor(FormHost& host) : host_(host) {}
 
     // The user changed the text of the box to `text`. What was put in is cut where the text would pass the
-    // box's limit; taking away is always free, also in a text longer than the limit.
+    // box's limit; taking away is always free, also in a text longer than the limit. Blanks at the end give
+    // way to what is put in front of them.
     bool Type(TextBox& box, std::string_view text);
     bool Press(Button& button);
     bool Pick(OptionButton& option);
     bool Toggle(CheckBox& check);
     bool PickLine(ListBox& list, int index);
+    bool OpenLine(ListBox& list, int index);  // double click: picks it, then what Enter does there
     bool PickDrive(DriveList& list, std::string_view drive);
     bool PickFolder(FolderList& list, int index);  // one click: choose it
     bool OpenFolder(FolderList& list, int index);  // double click: walk into it
@@ -36,9 +38,12 @@ class UserDoor {
     bool Escape(Form& form);             // presses the form's way out
     // A key pressed in a form: presses the button of its shortcut. Unless the press moved the focus on, it
     // goes back to the control that had it. Tells whether the key is a shortcut where the focus stands, and
-    // so means nothing else there; a button that takes no press leaves it one.
+    // so means nothing else there; a button that takes no press leaves it one. Nothing while another form has
+    // the focus.
     bool Key(Form& form, ShortcutKey key);
     bool Activate(Form& form);  // the form's window was brought to the front
+    // Characters typed in a form beside its boxes: go to the end of the box that it has for them.
+    bool TypeBeside(Form& form, std::string_view characters);
     // Closes the form's window.
     bool CloseWindow(FormSlotBase& slot);
 

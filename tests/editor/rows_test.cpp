@@ -108,7 +108,14 @@ TEST_F(Rows, AddWithASelectionAsksToClear) {
 
 TEST_F(Rows, TableHoldsNoMoreThan201) {
     ModifyProcedure& editor = CreateDP();
-    AddFixes(201);
+    const auto inUse = [&] { return editor.RowsLabel.Caption(); };
+    EXPECT_EQ(inUse(), "0 of 201");
+    AddFixes(195);
+    EXPECT_EQ(editor.RowsLabel.ForeColor(), Black);
+    AddFixes(1);
+    EXPECT_EQ(inUse(), "196 of 201");
+    EXPECT_EQ(editor.RowsLabel.ForeColor(), Red);
+    AddFixes(5);
     ExpectSilence();
     const WaypointRows full = State().WaypointTable;
     Add({.fix = "MORE", .frequency = "1", .lat = "1", .lon = "1"});
@@ -121,6 +128,7 @@ TEST_F(Rows, TableHoldsNoMoreThan201) {
     user->PicksLine(editor.WaypointList, 0);
     user->Presses(editor.DeleteWaypointCommand);
     EXPECT_TRUE(std::equal(full.begin() + 1, full.end(), State().WaypointTable.begin()));
+    EXPECT_EQ(inUse(), "200 of 201");
     EXPECT_EQ(Row(200), full[200]) << "no row stands behind the last";
     AddFixes(1);
     EXPECT_EQ(Lines().back(), "FIX200");

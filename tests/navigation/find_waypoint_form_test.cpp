@@ -159,6 +159,25 @@ TEST_F(Searching, TransfersFillTheEditor) {
     ExpectSilence();
 }
 
+TEST_F(Searching, EnterOrADoubleClickOnAHitTransfersIt) {
+    for (const bool byKey : {true, false}) {
+        OpenFor("F");
+        SearchFor("TWICE");
+        user->MovesTo(Search().WaypointListBox);
+        program->door.Key(Search(), ShortcutKey::Enter);
+        ASSERT_TRUE(program->findWaypointForm.IsLoaded()) << "no hit is picked yet";
+        if (byKey) {
+            user->PicksLine(Search().WaypointListBox, 1);
+            program->door.Key(Search(), ShortcutKey::Enter);
+        } else {
+            program->door.OpenLine(Search().WaypointListBox, 1);
+        }
+        EXPECT_FALSE(program->findWaypointForm.IsLoaded());
+        EXPECT_EQ(Editor().FixNameText.Text() + Editor().DDMLatText.Text(), "TWICE3");
+        user->Presses(Editor().OopsCommand);
+    }
+}
+
 TEST_F(Searching, AirportIsARunwayWaypointOnlyInAnApproach) {
     PutRunway("KABC09", "-1", "2", -12);
     const struct {

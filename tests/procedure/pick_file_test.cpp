@@ -44,6 +44,19 @@ TEST_F(Picker, NarrowsTheListByWhatIsTypedAndStartsAfreshEachTime) {
     EXPECT_EQ(program->host.Visible(), std::vector<Form*>{&Menu()});
 }
 
+TEST_F(Picker, LettersTypedBesideTheBoxNarrowTheListAndEnterOpensTheOnlyFile) {
+    PickFile& picker = Open();
+    for (const char* letter : {"k", "l", "a", "x", "y"}) program->door.TypeBeside(picker, letter);
+    EXPECT_EQ(picker.PickICAO.Text(), "klax");
+    EXPECT_EQ(user->FocusName(), "PickICAO");
+    user->Types(picker.PickICAO, "kj");
+    program->door.Key(picker, ShortcutKey::Enter);
+    EXPECT_FALSE(program->modifyProcedure.IsLoaded()) << "there are two";
+    user->Types(picker.PickICAO, "kl");
+    program->door.Key(picker, ShortcutKey::Enter);
+    EXPECT_EQ(Editor().FilenameText.Caption(), "KLAX-PERCH1.VTU.tr");
+}
+
 TEST_F(Picker, OpensItsOwnKindAfterAnotherWasCreatedBesideIt) {
     PickFile& picker = Open();
     user->Presses(Menu().CreateSTAR);

@@ -41,6 +41,8 @@ class FolderScreenTest : public ::testing::Test {
     void ExpectChosen(const std::string& folder, const std::string& hint) {
         EXPECT_EQ(program.state.SimulatorPath, folder);
         EXPECT_EQ(Screen().DataHintLabel.Caption(), hint);
+        const auto row = Screen().Dir1.ChosenIndex();
+        EXPECT_EQ(row ? Screen().Dir1.List(*row) : "", folder) << "what stands selected";
     }
     std::string Forms() {
         std::string forms;

@@ -26,7 +26,9 @@ struct Screen : Form {
     CheckBox Check{*this, "Check", "Check", 5};
 
     Button* WayOut() override { return &Go; }
-    std::vector<Shortcut> Shortcuts() override { return {{ShortcutKey::Delete, &Box, &Go}}; }
+    std::vector<Shortcut> Shortcuts() override {
+        return {{ShortcutKey::Delete, &Box, &Go}, {ShortcutKey::CtrlUp, nullptr, &Go}};
+    }
     void Form_Load() override {
         if (load_) load_();
     }
@@ -257,6 +259,9 @@ TEST_F(FormsTest, ShortcutPressesItsButtonOnlyWhereItBelongs) {
     EXPECT_TRUE(door.Key(*a, ShortcutKey::Delete));
     EXPECT_EQ(FocusOn(), "A.Check");
     EXPECT_FALSE(door.Key(*a, ShortcutKey::Delete));
+    b.slot.Show();
+    EXPECT_FALSE(door.Key(*a, ShortcutKey::CtrlUp)) << "another form has the keyboard";
+    EXPECT_EQ(FocusOn().front(), 'B');
 }
 
 TEST_F(FormsTest, TypingIsCutAtTheLimitAndTakingAwayIsFree) {
@@ -269,6 +274,12 @@ TEST_F(FormsTest, TypingIsCutAtTheLimitAndTakingAwayIsFree) {
     a->Box.SetText("ABCDEFGHIJ");
     EXPECT_EQ(typed("ABCDEFGHI"), "ABCDEFGHI");
     EXPECT_EQ(typed("ABCDEFGHIx"), "ABCDEFGHI");
+    a->Box.SetText("A       ");
+    EXPECT_EQ(typed("AB       "), "AB      ") << "blanks at the end give way";
+    EXPECT_EQ(typed("ABCD      "), "ABC     ");
+    EXPECT_EQ(typed("ABCx     "), "ABC     ");
+    EXPECT_EQ(typed("ABC      x"), "ABC     ");
+    EXPECT_EQ(typed("AB     "), "AB     ");
 }
 
 }  // namespace

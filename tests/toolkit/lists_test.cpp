@@ -148,15 +148,19 @@ TEST_F(ListsTest, ListBoxKeepsTheSelectionOnItsLine) {
 
     box.AddItem("zero", 0);
     EXPECT_EQ(box.Text(), "two");
+    EXPECT_EQ(box.NewestLine(), 0);
     box.RemoveItem(0);
+    EXPECT_EQ(box.NewestLine(), ListBox::NoSelection);
     box.RemoveItem(2);
     EXPECT_EQ(box.Text(), "two");
     box.RemoveItem(1);
     EXPECT_EQ(box.ListIndex(), ListBox::NoSelection);
     EXPECT_EQ(box.Lines(), Names{"one"});
     box.SetListIndex(0);
+    EXPECT_EQ(box.NewestLine(), 0);
     box.Clear();
     EXPECT_EQ(box.Text(), "");
+    EXPECT_EQ(box.NewestLine(), ListBox::NoSelection);
     EXPECT_EQ(clicks, 2);
     for (const int index : {-2, 0}) {
         EXPECT_EQ(NumberOf([&] { box.SetListIndex(index); }), BadArgument) << index;
