@@ -27,4 +27,9 @@ std::string EditedLongitude(std::string_view degrees, std::string_view minutes) 
     return PatternFormat(SignedNumberText(DecimalDegrees(degrees, minutes)), FourDigitPattern);
 }
 
+bool IsLonePoint(std::string_view text) {
+    if (text.starts_with('-') || text.starts_with('+')) text.remove_prefix(1);
+    return text == ".";
+}
+
 }  // namespace tarvex

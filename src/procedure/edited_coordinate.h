@@ -12,4 +12,8 @@ namespace tarvex {
 std::string EditedLatitude(std::string_view degrees, std::string_view minutes);
 std::string EditedLongitude(std::string_view degrees, std::string_view minutes);
 
+// Whether `text`, a point with at most a sign in front, is zero in the form in which rows of arcs hold it,
+// though it is no number by IsNumberText.
+bool IsLonePoint(std::string_view text);
+
 }  // namespace tarvex

@@ -1,6 +1,7 @@
 #include "procedure/procedure_lines.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "geometry/text_file.h"
 #include "geometry/text_rules.h"
@@ -44,13 +45,18 @@ WaypointItems ItemsAsHeld(const WaypointRecord& row) {
     return items;
 }
 
+SavedCoordinates CoordinatesForSave(const WaypointRecord& row) {
+    if (row.CoordinatesEdited == False) return {row.LatDecimal, row.LongDecimal};
+    return {EditedLatitude(row.LatDegrees, row.LatMinutes),
+            EditedLongitude(row.LongDegrees, row.LongMinutes)};
+}
+
 WaypointItems ItemsForSave(const WaypointRecord& row) {
     WaypointItems items = ItemsAsHeld(row);
     items[TypeColumn] = LeftTrim(SignedNumberText(row.WaypointType.View()));
-    if (row.CoordinatesEdited != False) {
-        items[LatitudeColumn] = EditedLatitude(row.LatDegrees, row.LatMinutes);
-        items[LongitudeColumn] = EditedLongitude(row.LongDegrees, row.LongMinutes);
-    }
+    auto [latitude, longitude] = CoordinatesForSave(row);
+    items[LatitudeColumn] = std::move(latitude);
+    items[LongitudeColumn] = std::move(longitude);
     if (HasSecondAltitude(row)) std::swap(items[FirstAltitudeColumn], items[SecondAltitudeColumn]);
     return items;
 }

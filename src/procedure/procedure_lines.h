@@ -13,8 +13,16 @@ namespace tarvex {
 // The line of a row exactly as the row holds it, without trailing blanks.
 WaypointItems ItemsAsHeld(const WaypointRecord& row);
 
-// The line of a row for the user's save: the type as a number, the decimals of an edited row computed from
-// its degrees and minutes, two altitudes lower first. NotANumber (13) for a WaypointType that is no number.
+// The decimals of a row's position as a save writes them: those that the row holds, or, of an edited one,
+// computed from its degrees and minutes. Overflow (6) for edited ones past the range of a double.
+struct SavedCoordinates {
+    std::string latitude;
+    std::string longitude;
+};
+SavedCoordinates CoordinatesForSave(const WaypointRecord& row);
+
+// The line of a row for the user's save: the type as a number, the position by CoordinatesForSave, two
+// altitudes lower first. NotANumber (13) for a WaypointType that is no number.
 WaypointItems ItemsForSave(const WaypointRecord& row);
 
 // An item that would not come back from the file as it is, because it holds a comma or a line end or begins

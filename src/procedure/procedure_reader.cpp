@@ -8,6 +8,7 @@
 
 #include "geometry/text_file.h"
 #include "geometry/text_rules.h"
+#include "procedure/edited_coordinate.h"
 #include "procedure/procedure_format.h"
 #include "procedure/procedure_writer.h"
 #include "procedure/runway_conversion.h"
@@ -78,12 +79,6 @@ void StoreItems(const WaypointItems& items, WaypointRecord& row) {
     row.Altitude2 = items[FirstAltitudeColumn];
     row.Altitude1 = items[SecondAltitudeColumn];
     row.RestrictionType = items[RestrictionColumn];
-}
-
-// The form in which rows of arcs hold a latitude of zero, though it is no number by IsNumberText.
-bool IsLonePoint(std::string_view text) {
-    if (text.starts_with('-') || text.starts_with('+')) text.remove_prefix(1);
-    return text == ".";
 }
 
 // Takes the two surplus characters off the coordinates of a row whose latitude shows them.

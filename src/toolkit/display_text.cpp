@@ -57,6 +57,17 @@ Piece Utf8Character(std::string_view text) {
     return {character, text.substr(0, length)};
 }
 
+void AppendUtf8(std::string& text, char32_t character) {
+    constexpr std::array<char32_t, 3> Leads = {0xC0, 0xE0, 0xF0};  // of two, three and four bytes
+    if (character < 0x80) {
+        text += static_cast<char>(character);
+        return;
+    }
+    const int following = character < 0x800 ? 1 : character < 0x10000 ? 2 : 3;
+    text += static_cast<char>(Leads[static_cast<std::size_t>(following - 1)] | character >> 6 * following);
+    for (int i = following - 1; i >= 0; --i) text += static_cast<char>(0x80 | (character >> 6 * i & 0x3F));
+}
+
 std::vector<Piece> Pieces(std::string_view text) {
     std::vector<Piece> pieces;
     while (!text.empty()) {
@@ -75,6 +86,12 @@ std::vector<Piece> Pieces(std::string_view text) {
 std::u32string ShownText(std::string_view text) {
     std::u32string shown;
     for (const Piece& piece : Pieces(text)) shown += piece.shown;
+    return shown;
+}
+
+std::string ShownUtf8(std::string_view text) {
+    std::string shown;
+    for (const char32_t character : ShownText(text)) AppendUtf8(shown, character);
     return shown;
 }
 

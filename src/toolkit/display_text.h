@@ -11,6 +11,8 @@ namespace tarvex {
 
 // The text as a window shows it.
 std::u32string ShownText(std::string_view text);
+// The same in UTF-8.
+std::string ShownUtf8(std::string_view text);
 
 // What `shown`, to which the user changed a box that held `before`, is in the program: characters that were
 // there keep their bytes, new ones are taken from the Windows Latin-1 code page, and what it lacks is left

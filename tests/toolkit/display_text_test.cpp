@@ -20,6 +20,7 @@ TEST(DisplayTextTest, BytesAreShownAsTheirCharacters) {
         {std::string_view("a\0\x1B\x7F", 4), U"a\u2400\u241B\u2421"},
     };
     for (const auto& [text, shown] : cases) EXPECT_EQ(ShownText(text), shown) << text;
+    EXPECT_EQ(ShownUtf8("A\t\xE9\x80 \xF0\x9F\x9B\xAB"), "A␉é€ 🛫");
 }
 
 TEST(DisplayTextTest, TypingKeepsTheBytesThatWereThere) {
