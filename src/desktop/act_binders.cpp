@@ -69,6 +69,11 @@ void ButtonBinder::ToWidget() {
     Binder::ToWidget();
 }
 
+void ButtonBinder::Arrive() {
+    // The mouse arrives before it presses, and this press comes ahead of the rule that the arrival would run.
+    if (!button_.DropsBoxes()) Binder::Arrive();
+}
+
 OptionBinder::OptionBinder(NativeForm& window, OptionButton& option, wxRadioButton& widget,
                            wxRadioButton& none)
     : Binder(window, option, widget), option_(option), widget_(widget), none_(none) {

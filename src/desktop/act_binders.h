@@ -32,6 +32,7 @@ class ButtonBinder final : public Binder {
   public:
     ButtonBinder(NativeForm& window, Button& button, wxAnyButton& widget, const wxString& spoken = {});
     void ToWidget() override;
+    void Arrive() override;
 
   private:
     Button& button_;

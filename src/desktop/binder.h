@@ -30,7 +30,7 @@ class Binder {
     // Whether the control is in use and in sight; what it shows is added by each kind.
     virtual void ToWidget();
     // The user moved the focus to the widget.
-    void Arrive();
+    virtual void Arrive();
     // Takes all that the control shows for the user's to overwrite.
     virtual void SelectAll() {}
 

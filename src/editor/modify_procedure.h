@@ -67,8 +67,8 @@ class ModifyProcedure : public Form {
     Button ModifyWaypointCommand{*this, "ModifyWaypointCommand", "Modify", 15};
     Button DeleteWaypointCommand{*this, "DeleteWaypointCommand", "Delete", 14};
     Button AddArcCommand{*this, "AddArcCommand", "Add ARC", 55};
-    Button ClearDataCommand{*this, "ClearDataCommand", "   Clear All    Input Boxes", 44};
-    Button OopsCommand{*this, "OopsCommand", "No Changes Just Exit", 13};
+    Button ClearDataCommand{*this, "ClearDataCommand", "   Clear All    Input Boxes", 44, Boxes::Dropped};
+    Button OopsCommand{*this, "OopsCommand", "No Changes Just Exit", 13, Boxes::Dropped};
     Button SaveCommand{*this, "SaveCommand", "Save Procedure", 12};
     Label Label6{*this, "Label6", "List of Waypoints", 37};
     ListBox WaypointList{*this, "WaypointList", 16};

@@ -84,7 +84,9 @@ bool ModifyProcedure::NameCanBeSaved() {
         return false;
     }
     BuildFilename();
-    if (CanNameFile(FilenameText.Caption())) return true;
+    // A stored name has shown that it can name a file, whatever is in it.
+    const bool stored = ModifiesProcedure(program_.state.ProcedureMode);
+    if (stored || CanNameFile(FilenameText.Caption())) return true;
     program_.Ask(editor_messages::FilenameUnusable(FilenameText.Caption()));
     AptNameText.SetFocus();
     return false;

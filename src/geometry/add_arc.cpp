@@ -110,7 +110,10 @@ bool AddARC::VariationIsMeant() {
     if (!MagVarText.Text().empty() || !NavaidCenter) return true;
     const MessageAnswer answer =
         program_.Ask({.prompt = std::string(IsVariationZero), .buttons = MessageButtons::YesNo});
-    if (answer == MessageAnswer::Yes) return true;
+    if (answer == MessageAnswer::Yes) {
+        MagVarText.SetText("0");
+        return true;
+    }
     MagVarText.SetFocus();
     return false;
 }

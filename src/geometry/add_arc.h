@@ -32,7 +32,7 @@ class AddARC : public Form {
     Label Label4{*this, "Label4", "ARC Label Will Be"};
     TextBox ArcLabelText{*this, "ArcLabelText", TextBox::NoLimit, 4};
     Button TransferCommand{*this, "TransferCommand", "Transfer Waypoint Data", 8};
-    Button ExitCommand{*this, "ExitCommand", "No ARC Just Exit", 7};
+    Button ExitCommand{*this, "ExitCommand", "No ARC Just Exit", 7, Boxes::Dropped};
 
     void Form_Load() override;
     Button* WayOut() override { return &ExitCommand; }

@@ -28,7 +28,7 @@ class CreateWaypointForm : public Form {
     Label Label6{*this, "Label6", "Waypoint ID"};
     TextBox WaypointIDText{*this, "WaypointIDText", 5, 7};
     Button TransferCommand{*this, "TransferCommand", "Transfer Waypoint Data", 1};
-    Button Command1{*this, "Command1", "    Oops    Go Back", 0};
+    Button Command1{*this, "Command1", "    Oops    Go Back", 0, Boxes::Dropped};
 
     void Form_Load() override;
     Button* WayOut() override { return &Command1; }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <concepts>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -30,6 +31,11 @@ class FixedField {
     constexpr operator std::string_view() const { return View(); }
 
     friend constexpr bool operator==(const FixedField&, const FixedField&) = default;
+    // A text is compared with all `Width` characters: a shorter or longer one is another.
+    friend constexpr bool operator==(const FixedField& field,
+                                     const std::convertible_to<std::string_view> auto& text) {
+        return field.View() == std::string_view(text);
+    }
 
   private:
     std::array<char, Width> characters_;

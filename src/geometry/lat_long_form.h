@@ -26,7 +26,7 @@ class LatLongForm : public Form {
     OptionButton EastOption{Frame2, "EastOption", "East Long", 8};
     OptionButton WestOption{Frame2, "WestOption", "West Long", 9};
     Button DoneCommand{*this, "DoneCommand", "Done", 1};
-    Button OopsCommand{*this, "OopsCommand", "  Oops   Exit Back", 2};
+    Button OopsCommand{*this, "OopsCommand", "  Oops   Exit Back", 2, Boxes::Dropped};
 
     Button* WayOut() override { return &OopsCommand; }
 

@@ -25,7 +25,7 @@ class FindWaypointForm : public Form {
     ListBox PointerListBox{*this, "PointerListBox",
                            Control::NoTabIndex};  // never shown: table indexes of the hits
     Button AddWaypoint{*this, "AddWaypoint", "Transfer Waypoint Data", 3};
-    Button GoBackCommand{*this, "GoBackCommand", "   Oops    Go Back", 4};
+    Button GoBackCommand{*this, "GoBackCommand", "   Oops    Go Back", 4, Boxes::Dropped};
     Label Label1{*this, "Label1", "Search       For :"};
     Label Label3{*this, "Label3", ""};
     Frame Frame1{*this, "Frame1", ""};

@@ -18,7 +18,7 @@ class PickFile : public Form {
     tarvex::FileList FileList;  // tab order 0
     TextBox PickICAO{*this, "PickICAO", 4, 1};
     Label Label1{*this, "Label1", "Type in ICAO    to search", 2};
-    Button DoneCommand{*this, "DoneCommand", " Oops!  Start Over", 3};
+    Button DoneCommand{*this, "DoneCommand", " Oops!  Start Over", 3, Boxes::Dropped};
 
     void Form_Load() override;
     Button* WayOut() override { return &DoneCommand; }

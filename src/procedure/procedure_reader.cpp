@@ -22,7 +22,7 @@ class RecordReader {
   public:
     RecordReader(std::string_view text, const std::string& path) : reader_(text, path), path_(path) {}
 
-    // False at the end of the file. ProcedureDataError when the file ends inside the record.
+    // False at the end of the file. PastEndOfFile (62) when the file ends inside the record.
     bool Next(WaypointItems& items);
 
     // Whether a comment passed so far ends as those of the older versions do.
@@ -60,7 +60,7 @@ bool RecordReader::Next(WaypointItems& items) {
         if (!Opens(items[MarkColumn])) continue;
         for (std::size_t column = NameColumn; column < WaypointColumns; ++column) {
             if (reader_.AtEndOfFile()) {
-                throw ProcedureDataError(PastEndOfFile, Reason("the file ends inside this waypoint"));
+                throw Failure(PastEndOfFile, Reason("the file ends inside this waypoint"));
             }
             items[column] = reader_.ReadItem();
         }
@@ -86,7 +86,7 @@ bool CutSurplus(WaypointRecord& row, const RecordReader& reader) {
     if (IsNumberText(row.LatDecimal) || IsLonePoint(row.LatDecimal)) return false;
     for (std::string* decimal : {&row.LatDecimal, &row.LongDecimal}) {
         if (decimal->size() < 2) {
-            throw ProcedureDataError(BadArgument, reader.Reason("the waypoint's position is no number"));
+            throw Failure(BadArgument, reader.Reason("the waypoint's position is no number"));
         }
         decimal->resize(decimal->size() - 2);
     }
@@ -117,10 +117,10 @@ FirstPass ReadRows(std::string_view text, const std::string& path) {
         }
         WaypointRecord& row = pass.rows.emplace_back();
         StoreItems(items, row);
-        if (CutSurplus(row, reader)) pass.rewriteNeeded = true;
         if (!items[ClosingColumn].empty()) {
             throw ProcedureDataError(BadArgument, reader.Reason("the waypoint has lost or surplus items"));
         }
+        if (CutSurplus(row, reader)) pass.rewriteNeeded = true;
         SplitCoordinate(row.LatDecimal, row.LatDegrees, row.LatMinutes, reader);
         SplitCoordinate(row.LongDecimal, row.LongDegrees, row.LongMinutes, reader);
     }

@@ -8,7 +8,8 @@
 
 namespace tarvex {
 
-// A procedure file with a record that lacks data or has too much: the run must end with it.
+// A procedure file with a record whose last item isn't empty: it has lost data, or has too much. The run must
+// end with it.
 class ProcedureDataError : public Failure {
   public:
     using Failure::Failure;
@@ -19,9 +20,10 @@ class ProcedureDataError : public Failure {
 // of an older version, in mode "I", gets its runway waypoints converted; either is written back before the
 // table is filled.
 //
-// ProcedureDataError for damaged data; Overflow (6) for more waypoints than the table holds or a coordinate
-// out of range; else the failures of the file system and of WriteProcedureFile. On a failure the table and,
-// as far as the file system lets it, the file are as they were.
+// ProcedureDataError for such a record; PastEndOfFile (62) for a file that ends inside a record; BadArgument
+// (5) for a coordinate too short to be mended; Overflow (6) for more waypoints than the table holds or a
+// coordinate out of range; else the failures of the file system and of WriteProcedureFile. On a failure the
+// table and, as far as the file system lets it, the file are as they were.
 std::int32_t ReadProcedureFile(FileSystem& files, SharedState& state);
 
 }  // namespace tarvex

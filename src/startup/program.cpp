@@ -31,8 +31,7 @@ Program::Program(const Platform& services)
       latLongForm(host, Maker<LatLongForm>(*this)) {
     host.SetFailureReport([this](const Failure& failure) {
         Ask({.prompt = "The operation could not be finished: " + failure.Reason() + " (error " +
-                       NumberText(failure.Number()) + ").",
-             .icon = MessageIcon::Critical});
+                       NumberText(failure.Number()) + ")."});
     });
 }
 

@@ -40,6 +40,15 @@ bool Focus::Give(Control& target) {
     return true;
 }
 
+void Focus::GiveAndAct(Control& target, const std::function<void()>& act) {
+    const Control* left = current_;
+    Set(&target);
+    act();
+    if (left == nullptr || left == current_ || !CanHold(*left) || !left->OnLostFocus) return;
+    const auto rule = left->OnLostFocus;
+    rule();
+}
+
 bool Focus::Activate(Form& form) {
     Control* target = form.lastFocus_;
     if (target == nullptr || !target->CanTakeFocus()) target = form.NextTabStop(nullptr, true);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 namespace tarvex {
 
 class Control;
@@ -18,6 +20,10 @@ class Focus {
     // the control that has the focus has run. False when the target can't take it, or when that rule gave the
     // focus to another control itself, its own as a rule: then it stays there and the target never had it.
     bool Give(Control& target);
+
+    // Gives the focus to `target`, which can take it, and runs `act` ahead of the leaving rule. That rule
+    // runs behind it where the control that was left is still in use without the focus.
+    void GiveAndAct(Control& target, const std::function<void()>& act);
 
     // Gives the focus to the control of `form` that had it last, else to the first in tab order. A form
     // without any takes the focus away from all controls. False as for Give.

@@ -71,12 +71,24 @@ class TextBox : public Control {
     Colour backColor_ = White;
 };
 
+// What a press of a button makes of what the boxes hold.
+enum class Boxes { Kept, Dropped };
+
 class Button : public CaptionedControl {
   public:
-    using CaptionedControl::CaptionedControl;
+    Button(Form& form, std::string_view name, std::string_view caption, int tabIndex = NoTabIndex,
+           Boxes boxes = Boxes::Kept)
+        : CaptionedControl(form, name, caption, tabIndex), boxes_(boxes) {}
+
+    // The press throws away what the boxes hold, and so comes before the leaving rule of the box that has the
+    // focus.
+    bool DropsBoxes() const { return boxes_ == Boxes::Dropped; }
     bool TakesFocus() const override { return true; }
 
     std::function<void()> OnClick;
+
+  private:
+    Boxes boxes_;
 };
 
 // One of several in a frame, of which at most one is selected.

@@ -6,9 +6,13 @@ namespace tarvex {
 
 namespace {
 
-bool OnScreen(FormHost& host, const Form& form) {
+bool OnScreen(const FormHost& host, const Form& form) {
     const auto& visible = host.Visible();
     return std::find(visible.begin(), visible.end(), &form) != visible.end();
+}
+
+bool TakesActs(const FormHost& host, const Control& control) {
+    return OnScreen(host, control.Owner()) && control.CanTakeFocus();
 }
 
 // `typed` with what it puts in beyond `before` cut so that it stays within `limit` characters.
@@ -39,10 +43,9 @@ std::string WithinLimit(std::string_view before, std::string_view typed, std::si
 bool UserDoor::Act(Control& control, const std::function<void()>& act) {
     bool acted = false;
     host_.RunEvent([&] {
-        if (!OnScreen(host_, control.Owner()) || !control.CanTakeFocus()) return;
-        if (!host_.GetFocus().Give(control)) return;
+        if (!TakesActs(host_, control) || !host_.GetFocus().Give(control)) return;
         // The leaving rule may have changed what can be used.
-        if (!OnScreen(host_, control.Owner()) || !control.CanTakeFocus()) return;
+        if (!TakesActs(host_, control)) return;
         acted = true;
         act();
     });
@@ -60,9 +63,16 @@ bool UserDoor::Type(TextBox& box, std::string_view text) {
 }
 
 bool UserDoor::Press(Button& button) {
-    return Act(button, [&] {
+    const auto press = [&button] {
         if (button.OnClick) button.OnClick();
+    };
+    if (!button.DropsBoxes()) return Act(button, press);
+    bool pressed = false;
+    host_.RunEvent([&] {
+        pressed = TakesActs(host_, button);
+        if (pressed) host_.GetFocus().GiveAndAct(button, press);
     });
+    return pressed;
 }
 
 bool UserDoor::Pick(OptionButton& option) {

@@ -12,7 +12,8 @@ namespace tarvex {
 
 // The one way in for what the user does, the same for native windows and for tests. It holds the order of
 // events: an act on a control first moves the focus to it; if the leaving rule of the control that had the
-// focus gave the focus elsewhere, the act ends there. A control that is disabled, hidden, out of sight with
+// focus gave the focus elsewhere, the act ends there. Only the press of a button that drops what the boxes
+// hold comes before that rule. A control that is disabled, hidden, out of sight with
 // its form, or of a form that has gone takes no act. Every call is one whole event and tells whether the act
 // took place.
 class UserDoor {

@@ -113,6 +113,44 @@ TEST_F(BoxRules, OfTheTools) {
     Check("WaypointIDText", {"a b"});
 }
 
+TEST_F(BoxRules, HoldUpNoWayOutAndNoClearing) {
+    ModifyProcedure& editor = CreateDP();
+    const auto leaves = [&](FormSlotBase& slot, Button& opener, const char* name, const char* text) {
+        for (const bool byKey : {false, true}) {
+            user->Presses(opener);
+            Form& form = **std::find_if(program->host.Visible().begin(), program->host.Visible().end(),
+                                        [&](const Form* shown) { return shown->Find(name) != nullptr; });
+            user->Types(dynamic_cast<TextBox&>(*form.Find(name)), text);
+            EXPECT_TRUE(byKey ? program->door.Escape(form) : user->Presses(*form.WayOut())) << name;
+            EXPECT_FALSE(slot.IsLoaded()) << name;
+        }
+    };
+    leaves(program->createWaypointForm, editor.CreateWaypointCommand, "TrueCourseText", "361");
+    leaves(program->addARC, editor.AddArcCommand, "ArcStartText", "361");
+    user->Presses(editor.AddArcCommand);
+    leaves(program->latLongForm, Designer().LatLongCommand, "MLatCenterText", "");
+    ExpectSilence();
+
+    user->Types(Designer().ArcStartText, "361");
+    user->Presses(editor.ClearDataCommand);
+    ExpectComplaint(RadialTooLarge, "ArcStartText");
+    user->Presses(Designer().ExitCommand);
+
+    user->Types(editor.AptNameText, "KXYZ");
+    user->Presses(editor.ClearDataCommand);
+    EXPECT_EQ(editor.FilenameText.Caption(), "KXYZ") << "what is not cleared has its rule";
+    user->Types(editor.DDMLongText, "181");
+    EXPECT_FALSE(user->Presses(editor.AddWaypointCommand));
+    ExpectComplaint(TooFarEast, "DDMLongText");
+    EXPECT_TRUE(user->Presses(editor.ClearDataCommand));
+    EXPECT_EQ(user->FocusName() + editor.DDMLongText.Text(), "FixNameText");
+    EXPECT_EQ(editor.LongEdited, False);
+    user->Types(editor.Alt1Text, "FL350");
+    EXPECT_TRUE(user->Presses(editor.OopsCommand));
+    EXPECT_FALSE(program->modifyProcedure.IsLoaded());
+    ExpectSilence();
+}
+
 TEST_F(BoxRules, AcceptedCoordinateMarksItsAxis) {
     ModifyProcedure& editor = CreateDP();
     const auto marks = [&] { return std::pair(editor.LatEdited, editor.LongEdited); };

@@ -66,6 +66,9 @@ TEST_F(Saving, NeedsANameThatAFileCanHave) {
     EXPECT_EQ(services.files.Writes(), 0);
     Name("KXYZ", "A-B.C");
     EXPECT_EQ(Save("KXYZ-A-B.C.wsd"), Saved(one));
+
+    OpenDP("KXYZ-A:B?.wsd", one);
+    EXPECT_EQ(Save("KXYZ-A:B?.wsd"), Saved(one)) << "what has a name can keep it";
 }
 
 TEST_F(Saving, AsksBeforeItOverwritesTheSameNameInACreateMode) {

@@ -114,6 +114,8 @@ TEST_F(SettingUp, WhatCanNotBeOpenedSaysWhyAndStaysAsItIs) {
         {"README", mendable, "README: the name has no \"-\" behind the airport's code", [] {}},
         {"KXYZ-DEMO1.wsd", "", path + ": no such file", [&] { services.files.Remove(path); }},
         {"KXYZ-DEMO1.wsd", full, path + ", line 203: more than 201 waypoints", [] {}},
+        {"KXYZ-DEMO1.wsd", mendable + "W,B,,0,1,", path + ", line 2: the file ends inside this waypoint",
+         [] {}},
         {"KXYZ-DEMO1.wsd", mendable, path + ": cannot be written",
          [&] { services.files.FailWrite(path, DiskFull); }},
     };

@@ -160,6 +160,8 @@ TEST(TextPartsTest, CutTrimAndFind) {
 
     const FixedField<10> field("ABC");
     EXPECT_EQ(field.View(), "ABC       ");
+    EXPECT_TRUE(field == std::string("ABC       ") && field == FixedField<10>("ABC"));
+    EXPECT_FALSE(field == "ABC" || "ABC        " == field) << "a text has to have the width";
     EXPECT_EQ(RightTrim(field), "ABC");
     EXPECT_EQ(FixedField<2>("123").View(), "12");
 }

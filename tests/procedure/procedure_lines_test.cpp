@@ -79,7 +79,8 @@ TEST(AltitudeBand, IsOrderedByNumberWhenThereIsASecondAltitude) {
         row.Altitude1 = altitude1;
         row.Altitude2 = altitude2;
         OrderAltitudes(row);
-        EXPECT_TRUE(row.Altitude1 == ordered1 && row.Altitude2 == ordered2) << altitude1 << ' ' << altitude2;
+        EXPECT_TRUE(row.Altitude1 == FixedField<6>(ordered1) && row.Altitude2 == FixedField<6>(ordered2))
+            << altitude1 << ' ' << altitude2;
     }
 }
 

@@ -125,9 +125,8 @@ std::string PickEnd(const FaultyFileSystem::Done& done, int number) {
                 return "InitialLoad PickFile ";
         }
     }
-    if (number == FaultyFileSystem::ShortRead) {
-        return done.operation == Operation::Read ? "[Fatal Data Error.] stopped 1" : "ModifyProcedure ";
-    }
+    const bool cutOff = number == FaultyFileSystem::ShortRead;
+    if (cutOff && done.operation != Operation::Read) return "ModifyProcedure ";
     return "[Procedure not opened.] InitialLoad ";
 }
 

@@ -92,8 +92,7 @@ TEST_F(FolderScreenTest, FolderFollowsTheLists) {
     EXPECT_EQ(services.messages.Take(),
               (std::vector{
                   Message{.prompt = "The operation could not be finished: E:\\: no such folder (error 76).",
-                          .title = "Tarvex 2.35",
-                          .icon = MessageIcon::Critical}}));
+                          .title = "Tarvex 2.35"}}));
     EXPECT_EQ(Screen().Drive1.Drive() + Screen().Dir1.Path(), "D:\\D:\\Fs2000");
     ExpectChosen("D:\\", "No navigation data in D:\\.");
 }
