@@ -57,7 +57,7 @@ TEST_F(SampleTest, ItsNavigationDataFillTheTables) {
     EXPECT_GT(program_.state.Navigation.FixCount, 3000);
     EXPECT_GT(program_.state.Navigation.NavaidCount, 150);
     EXPECT_EQ(program_.state.Navigation.AirportCount, 43);
-    EXPECT_TRUE(services_.messages.Shown().empty());
+    EXPECT_TRUE(services_.messages.Take().empty());
 }
 
 TEST_F(SampleTest, OpeningAndSavingAProcedureChangesItsFirstLineOnly) {
@@ -72,7 +72,7 @@ TEST_F(SampleTest, OpeningAndSavingAProcedureChangesItsFirstLineOnly) {
         }
     }
     EXPECT_GE(procedures, 20);
-    EXPECT_TRUE(services_.messages.Shown().empty());
+    EXPECT_TRUE(services_.messages.Take().empty());
 }
 
 TEST_F(SampleTest, TheApproachOfAnOlderVersionGetsItsRunwayWaypoint) {

@@ -1,6 +1,5 @@
 #include "support/memory_file_system.h"
 
-#include <algorithm>
 #include <stdexcept>
 
 #include "toolkit/failure.h"
@@ -8,8 +7,7 @@
 namespace tarvex::testing {
 
 std::string MemoryFileSystem::Key(std::string path) {
-    std::transform(path.begin(), path.end(), path.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
+    for (char& c : path) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
     while (path.size() > 1 && path.back() == '\\') path.pop_back();
     return path;
 }
@@ -57,29 +55,41 @@ const std::string& MemoryFileSystem::Content(const std::string& path) const {
     return found->second.text;
 }
 
+int MemoryFileSystem::Begin(Operation operation, const std::string& path) {
+    const bool due = done_.size() == faultAt_;
+    const auto standing = failing_.find({operation, Key(path)});
+    const int number = due ? faultNumber_ : standing == failing_.end() ? 0 : standing->second;
+    const bool halfWritten =
+        due && operation == Operation::Write && (number == DiskFull || number == DeviceError);
+    done_.push_back({operation, path, number > 0});
+    if (number == 0 || number == ShortRead || halfWritten) return number;
+    throw Failure(number, path + (operation == Operation::Write  ? ": cannot be written"
+                                  : operation == Operation::Read ? ": cannot be read"
+                                                                 : ": cannot be looked into"));
+}
+
 FileText MemoryFileSystem::Read(const std::string& path) {
+    const int fault = Begin(Operation::Read, path);
     RequireFolder(FolderOf(path));
-    if (const auto fault = failRead_.find(Key(path)); fault != failRead_.end() && fault->second != 0) {
-        throw Failure(fault->second, path + ": cannot be read");
-    }
     if (folders_.contains(Key(path))) throw Failure(AccessError, path + ": is a folder");
     const auto found = files_.find(Key(path));
     if (found == files_.end()) throw Failure(FileNotFound, path + ": no such file");
-    return FileText(found->second.text);
+    const std::string_view text = found->second.text;
+    return FileText(fault == ShortRead ? text.substr(0, text.size() / 2) : text);
 }
 
 void MemoryFileSystem::Write(const std::string& path, std::string_view text) {
+    const int fault = Begin(Operation::Write, path);
     RequireFolder(FolderOf(path));
-    if (const auto fault = failWrite_.find(Key(path)); fault != failWrite_.end() && fault->second != 0) {
-        throw Failure(fault->second, path + ": cannot be written");
-    }
     if (folders_.contains(Key(path))) throw Failure(AccessError, path + ": is a folder");
-    ++writes_;
     auto [entry, made] = files_.try_emplace(Key(path), Entry{path, {}});
-    entry->second.text = text;
+    entry->second.text = fault > 0 ? text.substr(0, text.size() / 2) : text;
+    if (fault > 0) throw Failure(fault, path + ": cannot be written");
+    ++writes_;
 }
 
 std::optional<std::string> MemoryFileSystem::FindFile(const std::string& path) {
+    Begin(Operation::FindFile, path);
     RequireFolder(FolderOf(path));
     const auto found = files_.find(Key(path));
     if (found == files_.end()) return std::nullopt;
@@ -88,6 +98,7 @@ std::optional<std::string> MemoryFileSystem::FindFile(const std::string& path) {
 }
 
 std::vector<std::string> MemoryFileSystem::Files(const std::string& folder) {
+    Begin(Operation::Files, folder);
     RequireFolder(folder);
     std::vector<std::string> names;
     for (const auto& [key, entry] : files_) {
@@ -98,6 +109,7 @@ std::vector<std::string> MemoryFileSystem::Files(const std::string& folder) {
 }
 
 std::vector<std::string> MemoryFileSystem::Folders(const std::string& folder) {
+    Begin(Operation::Folders, folder);
     RequireFolder(folder);
     std::vector<std::string> names;
     for (const auto& [key, path] : folders_) {
@@ -107,6 +119,7 @@ std::vector<std::string> MemoryFileSystem::Folders(const std::string& folder) {
 }
 
 std::string MemoryFileSystem::FolderOfDrive(const std::string& drive) {
+    Begin(Operation::FolderOfDrive, drive);
     RequireFolder(drive);
     return Key(currentFolder_).starts_with(Key(drive)) ? currentFolder_ : drive;
 }

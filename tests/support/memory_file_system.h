@@ -1,7 +1,6 @@
 #pragma once
 
 #include <map>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -21,9 +20,29 @@ class MemoryFileSystem : public FileSystem {
     // What a file holds. A missing one fails the test with an exception.
     const std::string& Content(const std::string& path) const;
 
+    enum class Operation { Read, Write, FindFile, Files, Folders, FolderOfDrive };
+    struct Done {
+        Operation operation;
+        std::string path;
+        bool failed = false;
+    };
+    // In place of an error number: a read gives the first half of the file and no error.
+    static constexpr int ShortRead = -1;
+    static constexpr std::size_t Never = static_cast<std::size_t>(-1);
+
     // From now on reading, or writing, this path fails with the number; 0: no more.
-    void FailRead(const std::string& path, int number) { failRead_[Key(path)] = number; }
-    void FailWrite(const std::string& path, int number) { failWrite_[Key(path)] = number; }
+    void FailRead(const std::string& path, int number) { failing_[{Operation::Read, Key(path)}] = number; }
+    void FailWrite(const std::string& path, int number) { failing_[{Operation::Write, Key(path)}] = number; }
+    // Operation `n`, counted from 0 from now on, fails with the number. A write that fails so with DiskFull
+    // or DeviceError leaves the first half of the text in the file.
+    void FailAt(std::size_t n, int number) {
+        done_.clear();
+        faultAt_ = n;
+        faultNumber_ = number;
+    }
+    // The operations since FailAt, or since they were last forgotten.
+    const std::vector<Done>& Operations() const { return done_; }
+    void ForgetOperations() { done_.clear(); }
 
     void SetDrives(std::vector<std::string> drives) { drives_ = std::move(drives); }
     void SetCurrentFolder(std::string folder) { currentFolder_ = std::move(folder); }
@@ -49,11 +68,16 @@ class MemoryFileSystem : public FileSystem {
     static std::string Key(std::string path);
     static std::string FolderOf(const std::string& path);
     void RequireFolder(const std::string& folder) const;
+    // Notes the operation and fails it where it is to fail. The number of a fault that the operation has to
+    // carry out itself; 0 without one.
+    int Begin(Operation operation, const std::string& path);
 
     std::map<std::string, Entry> files_;
     std::map<std::string, std::string> folders_;  // key to spelling
-    std::map<std::string, int> failRead_;
-    std::map<std::string, int> failWrite_;
+    std::map<std::pair<Operation, std::string>, int> failing_;
+    std::size_t faultAt_ = Never;
+    int faultNumber_ = 0;
+    std::vector<Done> done_;
     std::vector<std::string> drives_{"C:\\"};
     std::string currentFolder_ = "C:\\";
     int writes_ = 0;

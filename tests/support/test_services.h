@@ -23,26 +23,36 @@ inline void PrintTo(const Message& message, std::ostream* out) {
 
 namespace tarvex::testing {
 
-// Answers message boxes by a script, in order, and keeps what was shown. Without a script left it answers
-// with the message's own default button.
+// Answers questions by a script, in order, and keeps what was shown. Without a script left it answers with
+// the button that has the focus first.
 class ScriptedMessageBox : public MessageBox {
   public:
     void Answer(MessageAnswer answer) { answers_.push_back(answer); }
-    const std::vector<Message>& Shown() const { return shown_; }
-    // The messages shown since the last call.
-    std::vector<Message> Take() { return std::exchange(shown_, {}); }
+    using Answered = std::pair<Message, MessageAnswer>;
+    // The messages shown since the last call, with their answers.
+    std::vector<Answered> TakeAnswered() { return std::exchange(shown_, {}); }
+    std::vector<Message> Take() {
+        std::vector<Message> messages;
+        for (const auto& [message, answer] : TakeAnswered()) messages.push_back(message);
+        return messages;
+    }
 
     MessageAnswer Show(const Message& message) override {
-        shown_.push_back(message);
-        if (answers_.empty()) return message.defaultAnswer;
-        const MessageAnswer answer = answers_.front();
-        answers_.pop_front();
+        MessageAnswer answer = message.defaultAnswer;
+        if (message.buttons == MessageButtons::YesNo && answer == MessageAnswer::Ok) {
+            answer = MessageAnswer::Yes;
+        }
+        if (message.buttons == MessageButtons::YesNo && !answers_.empty()) {
+            answer = answers_.front();
+            answers_.pop_front();
+        }
+        shown_.emplace_back(message, answer);
         return answer;
     }
 
   private:
     std::deque<MessageAnswer> answers_;
-    std::vector<Message> shown_;
+    std::vector<Answered> shown_;
 };
 
 // A registry of string values by full key path; root and value name are looked at, access is not.
