@@ -35,4 +35,8 @@ void Binder::Post(std::function<bool(UserDoor&)> carry) {
     });
 }
 
+void Binder::PostLook(std::function<bool(UserDoor&)> carry) {
+    window_.Post(NativeAct::Kind::Look, &control_, std::move(carry));
+}
+
 }  // namespace tarvex

@@ -40,6 +40,8 @@ class Binder {
     // The user used the widget. `carry` takes that through the door. Nothing while the program itself is
     // changing widgets.
     void Post(std::function<bool(UserDoor&)> carry);
+    // The same of what moves no focus.
+    void PostLook(std::function<bool(UserDoor&)> carry);
 
   private:
     NativeForm& window_;

@@ -85,9 +85,8 @@ void Desktop::FormUnloaded(Form& form) {
 }
 
 void Desktop::Post(NativeAct act) {
-    if (awaited_ != nullptr && act.kind != NativeAct::Kind::Activate && act.form != awaited_->Shows()) {
-        awaited_ = nullptr;
-    }
+    const bool reachesOut = act.kind == NativeAct::Kind::Arrive || act.kind == NativeAct::Kind::Act;
+    if (awaited_ != nullptr && reachesOut && act.form != awaited_->Shows()) awaited_ = nullptr;
     acts_.Push(std::move(act));
     if (std::exchange(drainPosted_, true)) return;
     RunNext([this] {

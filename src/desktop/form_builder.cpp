@@ -4,6 +4,7 @@
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/listbox.h>
+#include <wx/notebook.h>
 #include <wx/radiobut.h>
 #include <wx/statbox.h>
 #include <wx/statline.h>
@@ -14,6 +15,7 @@
 #include "desktop/list_binders.h"
 #include "desktop/native_form.h"
 #include "desktop/native_text.h"
+#include "desktop/picture_binder.h"
 
 namespace tarvex {
 
@@ -27,6 +29,8 @@ wxWindow* FormBuilder::Inside(const Frame& frame) const {
 
 wxWindow* FormBuilder::ParentOf(const Control& control) const {
     if (control.Container() != nullptr) return frames_.at(control.Container());
+    const auto page = pages_.find(&control);
+    if (page != pages_.end()) return page->second;
     return parent_ != nullptr ? parent_ : &window_.Page();
 }
 
@@ -69,15 +73,25 @@ wxAnyButton* FormBuilder::Put(Button& button) {
     return widget;
 }
 
-wxSizer* FormBuilder::PutSmall(Button& button, Glyph glyph, Label& label) {
+wxBitmapButton* FormBuilder::PutGlyph(Button& button, Glyph glyph, const wxString& spoken) {
     const int size = 2 * Gap();
     auto* widget = new wxBitmapButton(ParentOf(button), wxID_ANY, GlyphImage(glyph, size));
     widget->Bind(wxEVT_SYS_COLOUR_CHANGED, [widget, glyph, size](wxSysColourChangedEvent& event) {
         event.Skip();
         widget->SetBitmap(GlyphImage(glyph, size));
     });
-    const wxString spoken = ShownLines(label.Caption());
     window_.Bind<ButtonBinder>(button, *widget, spoken);
+    return widget;
+}
+
+wxAnyButton* FormBuilder::PutSymbol(Button& button, Glyph glyph, const wxString& spoken) {
+    wxBitmapButton* widget = PutGlyph(button, glyph, spoken);
+    widget->SetToolTip(spoken);
+    return widget;
+}
+
+wxSizer* FormBuilder::PutSmall(Button& button, Glyph glyph, Label& label) {
+    wxBitmapButton* widget = PutGlyph(button, glyph, ShownLines(label.Caption()));
     auto* text = new wxStaticText(ParentOf(label), wxID_ANY, wxString());
     window_.Bind<LabelBinder>(label, std::vector{text}).PressesButton(button);
     auto* row = new wxBoxSizer(wxHORIZONTAL);
@@ -129,6 +143,42 @@ LineList* FormBuilder::Put(FileList& list, wxSize characters, const wxString& sp
     auto* widget = new LineList(ParentOf(list), false);
     widget->SetMinSize(SizeOf(characters));
     window_.Bind<FileListBinder>(list, *widget, spoken);
+    return widget;
+}
+
+void FormBuilder::FillPage(const Control& content, wxWindow* widget) {
+    const auto page = pages_.find(&content);
+    if (page == pages_.end()) return;
+    page->second->SetSizer(new wxBoxSizer(wxVERTICAL));
+    page->second->GetSizer()->Add(widget, wxSizerFlags(1).Expand());
+}
+
+LineList* FormBuilder::Put(ColumnList& list, wxSize characters, const wxString& spoken) {
+    std::vector<LineList::Column> columns;
+    for (const auto& [heading, number] : list.Columns()) columns.push_back({Shown(heading), number});
+    auto* widget = new LineList(ParentOf(list), columns);
+    widget->SetMinSize(SizeOf(characters));
+    window_.Bind<ColumnListBinder>(list, *widget, spoken);
+    FillPage(list, widget);
+    return widget;
+}
+
+wxWindow* FormBuilder::Put(Picture& picture) {
+    auto* widget = new wxWindow(ParentOf(picture), wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                                wxWANTS_CHARS | wxFULL_REPAINT_ON_RESIZE);
+    window_.Bind<PictureBinder>(picture, *widget);
+    FillPage(picture, widget);
+    return widget;
+}
+
+wxWindow* FormBuilder::Put(Tabs& tabs, const wxString& spoken) {
+    auto* widget = new wxNotebook(ParentOf(tabs), wxID_ANY);
+    for (const auto& [caption, content] : tabs.Pages()) {
+        auto* page = new wxPanel(widget);
+        widget->AddPage(page, Shown(caption));
+        pages_[content] = page;
+    }
+    window_.Bind<TabsBinder>(tabs, *widget, spoken);
     return widget;
 }
 

@@ -11,9 +11,12 @@
 #include "desktop/line_list.h"
 #include "toolkit/drive_lists.h"
 #include "toolkit/list_box.h"
+#include "toolkit/picture.h"
 #include "toolkit/simple_controls.h"
+#include "toolkit/tabs.h"
 
 class wxAnyButton;
+class wxBitmapButton;
 class wxCheckBox;
 class wxListBox;
 class wxRadioButton;
@@ -61,6 +64,13 @@ class FormBuilder {
     LineList* Put(FolderList& list, wxSize characters, const wxString& spoken);
     LineList* Put(FileList& list, wxSize characters, const wxString& spoken);
 
+    LineList* Put(ColumnList& list, wxSize characters, const wxString& spoken);
+    // A small button of a symbol alone; `spoken` is also its tip.
+    wxAnyButton* PutSymbol(Button& button, Glyph glyph, const wxString& spoken);
+    wxWindow* Put(Picture& picture);
+    // The contents of the pages are put behind it; they go onto their pages.
+    wxWindow* Put(Tabs& tabs, const wxString& spoken);
+
     // A frame. What is added to the sizer stands in it. With a caption it has a border, and the sizer is what
     // goes into the sizer around it; without one that is the widget that Inside gives.
     wxSizer* Put(Frame& frame, wxOrientation orientation);
@@ -77,12 +87,16 @@ class FormBuilder {
 
   private:
     wxStaticText* PutText(Label& label, LabelStyle style, long flags);
+    wxBitmapButton* PutGlyph(Button& button, Glyph glyph, const wxString& spoken);
+    // Fills the page of a content of tabs with its widget.
+    void FillPage(const Control& content, wxWindow* widget);
     wxWindow* ParentOf(const Control& control) const;
     wxSize SizeOf(wxSize characters) const;
 
     NativeForm& window_;
     wxWindow* parent_ = nullptr;
     std::map<const Control*, wxWindow*> frames_;
+    std::map<const Control*, wxWindow*> pages_;  // of the contents of tabs
     std::map<const Control*, wxRadioButton*> none_;
 };
 

@@ -6,47 +6,70 @@ namespace tarvex {
 
 class LineList::Model final : public wxDataViewVirtualListModel {
   public:
-    explicit Model(bool icons) : icons_(icons) {}
+    Model(unsigned columns, bool icons) : columns_(columns), icons_(icons) {}
 
-    void Put(unsigned count, TextOfLine text, IconOfLine icon) {
+    void Put(unsigned count, TextOfCell text, IconOfLine icon) {
         text_ = std::move(text);
         icon_ = std::move(icon);
         Reset(count);
     }
 
-    unsigned GetColumnCount() const override { return 1; }
+    unsigned GetColumnCount() const override { return columns_; }
     wxString GetColumnType(unsigned) const override {
         return icons_ ? wxDataViewIconTextRenderer::GetDefaultType()
                       : wxDataViewTextRenderer::GetDefaultType();
     }
-    void GetValueByRow(wxVariant& value, unsigned line, unsigned) const override {
+    void GetValueByRow(wxVariant& value, unsigned line, unsigned column) const override {
         if (icons_) {
-            value << wxDataViewIconText(text_(line), icon_ ? icon_(line) : wxBitmapBundle());
+            value << wxDataViewIconText(text_(line, column), icon_ ? icon_(line) : wxBitmapBundle());
         } else {
-            value = text_(line);
+            value = text_(line, column);
         }
     }
     bool SetValueByRow(const wxVariant&, unsigned, unsigned) override { return false; }
 
   private:
+    unsigned columns_;
     bool icons_;
-    TextOfLine text_;
+    TextOfCell text_;
     IconOfLine icon_;
 };
 
-LineList::LineList(wxWindow* parent, bool icons)
-    : wxDataViewCtrl(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxDV_SINGLE | wxDV_NO_HEADER),
-      model_(new Model(icons)) {
+LineList::LineList(wxWindow* parent, long style, Model* model)
+    : wxDataViewCtrl(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxDV_SINGLE | style), model_(model) {
     AssociateModel(model_);
     model_->DecRef();
-    wxDataViewRenderer* renderer = icons ? static_cast<wxDataViewRenderer*>(new wxDataViewIconTextRenderer)
-                                         : static_cast<wxDataViewRenderer*>(new wxDataViewTextRenderer);
-    renderer->SetAlignment(wxALIGN_LEFT | wxALIGN_CENTRE_VERTICAL);
-    AppendColumn(new wxDataViewColumn(wxString(), renderer, 0));
+}
+
+LineList::LineList(wxWindow* parent, bool icons) : LineList(parent, wxDV_NO_HEADER, new Model(1, icons)) {
+    if (icons) {
+        Append(new wxDataViewIconTextRenderer, {}, 0, false);
+    } else {
+        Append(new wxDataViewTextRenderer, {}, 0, false);
+    }
+}
+
+LineList::LineList(wxWindow* parent, const std::vector<Column>& columns)
+    : LineList(parent, 0L, new Model(static_cast<unsigned>(columns.size()), false)) {
+    for (unsigned i = 0; const Column& column : columns) {
+        Append(new wxDataViewTextRenderer, column.heading, i++, column.number);
+    }
+}
+
+void LineList::Append(wxDataViewRenderer* renderer, const wxString& heading, unsigned column, bool number) {
+    const int align = number ? wxALIGN_RIGHT : wxALIGN_LEFT;
+    renderer->SetAlignment(align | wxALIGN_CENTRE_VERTICAL);
+    AppendColumn(new wxDataViewColumn(heading, renderer, column, wxCOL_WIDTH_AUTOSIZE,
+                                      static_cast<wxAlignment>(align)));
 }
 
 void LineList::Put(unsigned count, TextOfLine text, IconOfLine icon) {
-    model_->Put(count, std::move(text), std::move(icon));
+    model_->Put(
+        count, [text = std::move(text)](unsigned line, unsigned) { return text(line); }, std::move(icon));
+}
+
+void LineList::Put(unsigned count, TextOfCell text) {
+    model_->Put(count, std::move(text), {});
 }
 
 int LineList::LineOf(const wxDataViewItem& item) const {

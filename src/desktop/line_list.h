@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include <wx/dataview.h>
 
@@ -11,10 +12,19 @@ class LineList final : public wxDataViewCtrl {
   public:
     // `icons`: each line has one beside its text.
     LineList(wxWindow* parent, bool icons);
+    // With columns, a heading over each; texts of numbers stand at the right.
+    struct Column {
+        wxString heading;
+        bool number;
+    };
+    LineList(wxWindow* parent, const std::vector<Column>& columns);
 
+    using TextOfCell = std::function<wxString(unsigned line, unsigned column)>;
     using TextOfLine = std::function<wxString(unsigned)>;
     using IconOfLine = std::function<wxBitmapBundle(unsigned)>;
     void Put(unsigned count, TextOfLine text, IconOfLine icon = {});
+
+    void Put(unsigned count, TextOfCell text);
 
     static constexpr int NoLine = -1;
     int Line() const { return LineOf(GetSelection()); }
@@ -23,6 +33,8 @@ class LineList final : public wxDataViewCtrl {
 
   private:
     class Model;
+    LineList(wxWindow* parent, long style, Model* model);
+    void Append(wxDataViewRenderer* renderer, const wxString& heading, unsigned column, bool number);
     Model* model_;
 };
 

@@ -35,6 +35,38 @@ void ListBoxBinder::ToWidget() {
     Binder::ToWidget();
 }
 
+ColumnListBinder::ColumnListBinder(NativeForm& window, ColumnList& list, LineList& widget,
+                                   const wxString& spoken)
+    : Binder(window, list, widget, spoken), list_(list), widget_(widget) {
+    widget.Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, [this](wxDataViewEvent&) { ToDoor(); });
+    widget.Bind(wxEVT_CHAR_HOOK, &ColumnListBinder::OnKey, this);
+}
+
+void ColumnListBinder::ToDoor() {
+    const int line = widget_.Line();
+    if (line == LineList::NoLine) return;
+    Post([this, line](UserDoor& door) { return line < list_.ListCount() && door.PickLine(list_, line); });
+}
+
+void ColumnListBinder::OnKey(wxKeyEvent& event) {
+    if (event.GetKeyCode() != 'C' || event.GetModifiers() != wxMOD_CONTROL) {
+        event.Skip();
+        return;
+    }
+    Post([this](UserDoor& door) { return door.Copy(list_); });
+}
+
+void ColumnListBinder::ToWidget() {
+    if (shown_ != list_.Lines()) {
+        shown_ = list_.Lines();
+        widget_.Put(static_cast<unsigned>(shown_.size()), [this](unsigned line, unsigned column) {
+            return Shown(list_.Cells(static_cast<int>(line))[column]);
+        });
+    }
+    widget_.SelectLine(list_.ListIndex());
+    Binder::ToWidget();
+}
+
 DriveListBinder::DriveListBinder(NativeForm& window, DriveList& list, wxChoice& widget,
                                  const wxString& spoken)
     : Binder(window, list, widget, spoken), list_(list), widget_(widget) {

@@ -27,6 +27,20 @@ class ListBoxBinder final : public Binder {
     std::vector<std::string> shown_;
 };
 
+class ColumnListBinder final : public Binder {
+  public:
+    ColumnListBinder(NativeForm& window, ColumnList& list, LineList& widget, const wxString& spoken);
+    void ToWidget() override;
+
+  private:
+    void ToDoor();
+    void OnKey(wxKeyEvent& event);
+
+    ColumnList& list_;
+    LineList& widget_;
+    std::vector<std::string> shown_;
+};
+
 class DriveListBinder final : public Binder {
   public:
     DriveListBinder(NativeForm& window, DriveList& list, wxChoice& widget, const wxString& spoken);

@@ -101,6 +101,12 @@ bool HoldsFocusOfWindow(const wxWindow& widget) {
     return focus != nullptr && (focus == own || gtk_widget_is_ancestor(focus, own));
 }
 
+double PixelsOfUnit(const wxWindow& window) {
+    constexpr double DotsPerInch = 96;
+    const double resolution = gdk_screen_get_resolution(gtk_widget_get_screen(window.GetHandle()));
+    return resolution > 0 ? resolution / DotsPerInch : 1;
+}
+
 void ActivateByClick(wxDataViewCtrl& list) {
     gtk_tree_view_set_activate_on_single_click(GTK_TREE_VIEW(list.GtkGetTreeView()), TRUE);
 }
@@ -148,6 +154,10 @@ bool HoldsFocusOfWindow(const wxWindow& widget) {
         if (focus == &widget) return true;
     }
     return false;
+}
+
+double PixelsOfUnit(const wxWindow& window) {
+    return window.GetDPIScaleFactor();
 }
 
 void ActivateByClick(wxDataViewCtrl& list) {

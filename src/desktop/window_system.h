@@ -26,6 +26,9 @@ void Present(wxWindow& window);
 // Whether the widget, or a part of it, has the focus within its window, be the window active or not.
 bool HoldsFocusOfWindow(const wxWindow& widget);
 
+// Pixels of a window that are one pixel of a screen at 100 %.
+double PixelsOfUnit(const wxWindow& window);
+
 // Makes a single click on a line of a list activate it, whether it is selected already or not.
 void ActivateByClick(wxDataViewCtrl& list);
 

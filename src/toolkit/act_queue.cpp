@@ -5,12 +5,13 @@ namespace tarvex {
 namespace {
 
 bool MadeAnywayBy(const NativeAct& move, const NativeAct& next) {
-    if (next.form != move.form || next.control == nullptr) return false;
+    if (next.form != move.form || next.control == nullptr || next.kind == NativeAct::Kind::Look) return false;
     switch (move.kind) {
         case NativeAct::Kind::Activate:
             return true;
         case NativeAct::Kind::Arrive:
             return next.control == move.control;
+        case NativeAct::Kind::Look:
         case NativeAct::Kind::Act:
             break;
     }

@@ -14,6 +14,7 @@ struct NativeAct {
     enum class Kind {
         Activate,  // brought the window to the front
         Arrive,    // moved the focus to the control
+        Look,      // looked at something, which moves no focus
         Act,       // used the control, or the form where there is none
     };
 

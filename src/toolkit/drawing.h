@@ -99,6 +99,9 @@ struct Drawing {
     std::vector<DrawnItem> items;
 };
 
+// What stands at a point of the drawing, or so near that it is meant: the nearest, a row before all others.
+Target TargetAt(const Drawing& drawing, Point point);
+
 // Widths of words, which only a font can tell.
 class TextMeasure {
   public:

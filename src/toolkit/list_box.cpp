@@ -1,5 +1,7 @@
 #include "toolkit/list_box.h"
 
+#include <algorithm>
+
 #include "toolkit/failure.h"
 
 namespace tarvex {
@@ -55,6 +57,17 @@ void ListBox::SetLines(std::vector<std::string> lines) {
 void ListBox::CountChanged() const {
     Changed();
     Run(OnCount);
+}
+
+std::vector<std::string> ColumnList::Cells(int index) const {
+    std::vector<std::string> cells(columns_.size());
+    std::string_view rest = List(index);
+    for (std::string& cell : cells) {
+        const auto end = std::min(rest.find('\t'), rest.size());
+        cell = rest.substr(0, end);
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+    return cells;
 }
 
 }  // namespace tarvex

@@ -52,4 +52,25 @@ class ListBox : public Control {
     int newestLine_ = NoSelection;
 };
 
+// A list whose lines have columns, with a heading over each: in the text of a line a tab parts them.
+class ColumnList : public ListBox {
+  public:
+    struct Column {
+        std::string heading;
+        bool number = false;  // its texts stand at the right
+    };
+
+    ColumnList(Form& form, std::string_view name, std::vector<Column> columns, int tabIndex)
+        : ListBox(form, name, tabIndex), columns_(std::move(columns)) {}
+
+    const std::vector<Column>& Columns() const { return columns_; }
+    // The texts of a line, one for each column.
+    std::vector<std::string> Cells(int index) const;
+
+    std::function<void()> OnCopy;
+
+  private:
+    std::vector<Column> columns_;
+};
+
 }  // namespace tarvex

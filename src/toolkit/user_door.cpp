@@ -109,6 +109,84 @@ bool UserDoor::PickFile(FileList& list, int index) {
     return Act(list, [&] { list.SetListIndex(index); });
 }
 
+bool UserDoor::ShowPage(Tabs& tabs, int index) {
+    return Act(tabs, [&] { tabs.SetIndex(index); });
+}
+
+bool UserDoor::Copy(ColumnList& list) {
+    return Act(list, [&] {
+        if (list.OnCopy) list.OnCopy();
+    });
+}
+
+bool UserDoor::Look(Picture& picture, const std::function<void()>& look) {
+    bool looked = false;
+    host_.RunEvent([&] {
+        if (!OnScreen(host_, picture.Owner()) || !picture.Usable()) return;
+        looked = true;
+        look();
+    });
+    return looked;
+}
+
+// Also of a picture that is out of sight: it is drawn for the room that it will have.
+bool UserDoor::Resize(Picture& picture, Size room) {
+    host_.RunEvent([&] { picture.SetRoom(room); });
+    return true;
+}
+
+bool UserDoor::PointAt(Picture& picture, std::optional<Point> point) {
+    return Look(picture, [&] {
+        if (picture.OnPoint) picture.OnPoint(point ? TargetAt(picture.Shown(), *point) : Target{});
+    });
+}
+
+bool UserDoor::Zoom(Picture& picture, double steps, std::optional<Point> at) {
+    const Point middle{picture.Room().width / 2, picture.Room().height / 2};
+    return Look(picture, [&] {
+        if (picture.OnZoom) picture.OnZoom(steps, at.value_or(middle));
+    });
+}
+
+bool UserDoor::Pan(Picture& picture, double x, double y) {
+    return Look(picture, [&] {
+        if (picture.OnPan) picture.OnPan(x, y);
+    });
+}
+
+bool UserDoor::Fit(Picture& picture) {
+    return Look(picture, [&] {
+        if (picture.OnFit) picture.OnFit();
+    });
+}
+
+bool UserDoor::Choose(Picture& picture, Point point) {
+    return Act(picture, [&] {
+        if (picture.OnChoose) picture.OnChoose(TargetAt(picture.Shown(), point));
+    });
+}
+
+bool UserDoor::TakeAt(Picture& picture, Point point) {
+    if (TargetAt(picture.Shown(), point).kind == Target::Kind::None) return Fit(picture);
+    // What the choice led to may be elsewhere, as the line of a list.
+    return Choose(picture, point) && (!picture.HasFocus() || Take(picture, false));
+}
+
+bool UserDoor::Take(Picture& picture, bool also) {
+    return Act(picture, [&] {
+        if (picture.OnTake) picture.OnTake(also);
+    });
+}
+
+bool UserDoor::PickMenuEntry(Picture& picture, int index) {
+    return Act(picture, [&] {
+        // The entry goes with the menu, which its own act may change.
+        if (index < 0 || index >= static_cast<int>(picture.Menu().size())) return;
+        const MenuEntry entry = picture.Menu()[static_cast<std::size_t>(index)];
+        if (entry.enabled && entry.onClick) entry.onClick();
+    });
+}
+
 bool UserDoor::MoveFocus(Control& control) {
     return Act(control, [] {});
 }

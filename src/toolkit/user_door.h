@@ -1,12 +1,15 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string_view>
 
 #include "toolkit/drive_lists.h"
 #include "toolkit/form_host.h"
 #include "toolkit/list_box.h"
+#include "toolkit/picture.h"
 #include "toolkit/simple_controls.h"
+#include "toolkit/tabs.h"
 
 namespace tarvex {
 
@@ -34,6 +37,20 @@ class UserDoor {
     bool OpenFolder(FolderList& list, int index);  // double click: walk into it
     bool PickFile(FileList& list, int index);
 
+    bool ShowPage(Tabs& tabs, int index);
+    bool Copy(ColumnList& list);  // Ctrl+C
+
+    // Acts on a picture. Those that only look at it leave the focus where it is.
+    bool Resize(Picture& picture, Size room);                    // its window got another size
+    bool PointAt(Picture& picture, std::optional<Point> point);  // the pointer moved; nothing: it left
+    bool Zoom(Picture& picture, double steps, std::optional<Point> at);  // without a point: at the middle
+    bool Pan(Picture& picture, double x, double y);
+    bool Fit(Picture& picture);
+    bool Choose(Picture& picture, Point point);
+    bool TakeAt(Picture& picture, Point point);  // double click; on nothing it fits the picture
+    bool Take(Picture& picture, bool also);      // Enter, also with Ctrl: what was chosen before
+    bool PickMenuEntry(Picture& picture, int index);
+
     bool MoveFocus(Control& control);
     bool Tab(Form& form, bool forward);  // the Tab key in a form
     bool Escape(Form& form);             // presses the form's way out
@@ -49,6 +66,7 @@ class UserDoor {
     bool CloseWindow(FormSlotBase& slot);
 
   private:
+    bool Look(Picture& picture, const std::function<void()>& look);
     bool Act(Control& control, const std::function<void()>& act);
 
     FormHost& host_;

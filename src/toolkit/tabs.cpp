@@ -1,0 +1,29 @@
+#include "toolkit/tabs.h"
+
+#include <utility>
+
+#include "toolkit/failure.h"
+
+namespace tarvex {
+
+Tabs::Tabs(Form& form, std::string_view name, std::vector<Page> pages, int tabIndex)
+    : Control(form, name, tabIndex), pages_(std::move(pages)) {
+    ShowContent();
+}
+
+void Tabs::SetIndex(int index) {
+    if (index < 0 || index >= static_cast<int>(pages_.size())) {
+        throw Failure(BadArgument, Name() + " has no such page");
+    }
+    if (index_ == index) return;
+    index_ = index;
+    ShowContent();
+    Changed();
+    Run(OnClick);
+}
+
+void Tabs::ShowContent() {
+    for (int i = 0; const Page& page : pages_) page.content->SetVisible(i++ == index_);
+}
+
+}  // namespace tarvex
