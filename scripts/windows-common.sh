@@ -17,16 +17,46 @@ triplet_of() {
     esac
 }
 
-wx_prefix() { echo "$cache/wx-$1"; }
-wx_is_built() { [ -f "$(wx_prefix "$1")/complete" ]; }
+# What of wxWidgets the program links: pictures as PNG, with the sources that wxWidgets brings, and nothing to read
+# or show what the program has not.
+wx_options=(
+    --disable-shared --enable-unicode --disable-debug_flag --disable-precomp-headers
+    --with-libpng=builtin --with-zlib=builtin
+    --without-expat --without-libjpeg --without-libtiff --without-regex --without-nanosvg
+    --disable-mediactrl --disable-webview --disable-stc --disable-xrc --disable-aui --disable-propgrid --disable-ribbon
+    --disable-richtext --disable-html --disable-sockets --disable-fs_archive --disable-fs_inet --disable-fs_zip
+    --disable-zipstream --disable-tarstream --disable-protocol --disable-url --disable-printarch --disable-mdi
+    --disable-help --disable-debugreport --disable-svg --disable-joystick --disable-sound --disable-tests
+    CFLAGS=-Os "CXXFLAGS=-Os -std=gnu++17"
+)
 
-# Fetches the source package of wxWidgets into the cache and prints the folder of the tree. The package list comes
-# from a list of the script's own, made of the machine's own sources with source packages switched on; what the
-# machine is set up to use stays as it is.
+wx_prefix() { echo "$cache/wx-$1"; }
+
+# One line for each way to build it. A build that ended well holds the line of its way; any other is none.
+wx_stamp() { printf '%s\n' "${wx_options[@]}" | sha256sum | cut -d ' ' -f 1; }
+wx_is_built() { [ "$(cat "$(wx_prefix "$1")/complete" 2>/dev/null)" = "$(wx_stamp)" ]; }
+
+# The source packages of which the tree is made: wxWidgets, and what its package leaves out of src.
+wx_packages=(wxwidgets3.2 zlib libpng1.6)
+
+# Unpacks the archive of a source package that lies in a folder.
+unpack_source() {
+    local folder=$1 package=$2 into=$3 archive
+    archive=$(find "$folder" -maxdepth 1 -name "${package}_*.orig.tar.*" ! -name '*.asc' | head -n 1)
+    [ -n "$archive" ] || { echo "the source package $package held no archive" >&2; return 1; }
+    mkdir -p "$into" && tar -xf "$archive" -C "$into" --strip-components=1
+}
+
+# Fetches the source packages into the cache and prints the folder of the tree. The package list comes from a list
+# of the script's own, made of the machine's own sources with source packages switched on; what the machine is set up
+# to use stays as it is.
 wx_source() {
     local found
     found=$(find "$cache" -maxdepth 1 -type d -name 'wxWidgets-*' 2>/dev/null | head -n 1)
-    if [ -n "$found" ] && [ -f "$found/complete" ]; then echo "$found"; return; fi
+    if [ -n "$found" ] && [ "$(cat "$found/complete" 2>/dev/null)" = "${wx_packages[*]}" ]; then
+        echo "$found"
+        return
+    fi
 
     local work=$cache/source
     rm -rf "$work" && mkdir -p "$work/lists/partial" "$work/parts"
@@ -41,22 +71,21 @@ wx_source() {
     done
     local apt=(-o Dir::Etc::SourceList=/dev/null -o "Dir::Etc::SourceParts=$work/parts"
                -o "Dir::State::Lists=$work/lists" -o APT::Sandbox::User=root)
-    say "fetching the source package of wxWidgets" >&2
+    say "fetching the source packages ${wx_packages[*]}" >&2
     apt-get "${apt[@]}" -qq update >&2
-    (cd "$work" && apt-get "${apt[@]}" -qq --download-only source wxwidgets3.2 >&2)
-    local archive
-    archive=$(find "$work" -maxdepth 1 -name 'wxwidgets3.2_*.orig.tar.*' ! -name '*.asc' | head -n 1)
-    [ -n "$archive" ] || { echo "the source package held no archive" >&2; return 1; }
-    mkdir -p "$work/tree" && tar -xf "$archive" -C "$work/tree" --strip-components=1
-    local version
-    version=$(sed -n 's/.*wxVERSION_NUM_DOT_STRING *"\([0-9.]*\)".*/\1/p' "$work/tree/include/wx/version.h")
-    [ -n "$version" ] || version=$(basename "$archive" | sed 's/wxwidgets3.2_\([0-9.]*[0-9]\).*/\1/')
-    rm -rf "$cache/wxWidgets-$version" && mv "$work/tree" "$cache/wxWidgets-$version"
-    touch "$cache/wxWidgets-$version/complete" && rm -rf "$work"
+    (cd "$work" && apt-get "${apt[@]}" -qq --download-only --tar-only source "${wx_packages[@]}" >&2)
+    local tree=$work/tree version
+    unpack_source "$work" wxwidgets3.2 "$tree"
+    unpack_source "$work" zlib "$tree/src/zlib"
+    unpack_source "$work" libpng1.6 "$tree/src/png"
+    cp "$tree/src/png/scripts/pnglibconf.h.prebuilt" "$tree/src/png/pnglibconf.h"
+    version=$(basename "$work"/wxwidgets3.2_*.orig.tar.* | sed 's/wxwidgets3.2_\([0-9.]*[0-9]\).*/\1/')
+    rm -rf "$cache"/wxWidgets-* && mv "$tree" "$cache/wxWidgets-$version"
+    echo "${wx_packages[*]}" > "$cache/wxWidgets-$version/complete" && rm -rf "$work"
     echo "$cache/wxWidgets-$version"
 }
 
-# Builds wxWidgets static for one architecture, once.
+# Builds wxWidgets static for one architecture, once for each set of options.
 build_wx() {
     local arch=$1 triplet prefix source
     triplet=$(triplet_of "$arch")
@@ -69,14 +98,8 @@ build_wx() {
     (
         cd "$build"
         "$source/configure" --quiet --host="$triplet" --build=x86_64-linux-gnu --prefix="$prefix" \
-            --disable-shared --enable-unicode --disable-debug_flag --disable-precomp-headers --without-expat --without-zlib \
-            --without-libpng --without-libjpeg --without-libtiff --without-regex --without-nanosvg --disable-mediactrl --disable-webview \
-            --disable-stc --disable-xrc --disable-aui --disable-propgrid --disable-ribbon --disable-richtext \
-            --disable-html --disable-sockets --disable-fs_archive --disable-fs_inet --disable-fs_zip \
-            --disable-zipstream --disable-tarstream --disable-protocol --disable-url --disable-printarch \
-            --disable-mdi --disable-help --disable-debugreport --disable-svg --disable-joystick \
-            --disable-sound --disable-tests CC="$triplet-gcc-posix" CXX="$triplet-g++-posix" \
-            CFLAGS="-Os" CXXFLAGS="-Os -std=gnu++17" > "$cache/configure-$arch.log" 2>&1 ||
+            "${wx_options[@]}" CC="$triplet-gcc-posix" CXX="$triplet-g++-posix" \
+            > "$cache/configure-$arch.log" 2>&1 ||
             { tail -n 20 "$cache/configure-$arch.log" >&2; exit 1; }
         local total done_count
         total=$(make -n 2>/dev/null | grep -c -- ' -c ' || true)
@@ -91,6 +114,6 @@ build_wx() {
         wait "$maker" || { tail -n 30 "$cache/make-$arch.log" >&2; exit 1; }
         make install > "$cache/install-$arch.log" 2>&1
     )
-    touch "$prefix/complete"
+    wx_stamp > "$prefix/complete"
     rm -rf "$build"
 }
