@@ -14,7 +14,7 @@ namespace {
 using Kind = AltitudeRestriction::Kind;
 
 constexpr double MarginLeft = 46;
-constexpr double MarginRight = 24;
+constexpr double MarginRight = 64;
 constexpr double MarginTop = 30;
 constexpr double MarginBottom = 24;
 constexpr double LeastMiles = 0.5;  // that a view shows
@@ -299,7 +299,9 @@ void ProfileScene::PutNames() {
         const bool free = std::none_of(taken.begin(), taken.end(), [&](const auto& other) {
             return left < other.second + Gap && left + width + Gap > other.first;
         });
-        Rule({x, top_}, {x, bottom_}, selected ? Role::Selected : Role::Grid);
+        Put(Line{.points = {{x, top_}, {x, bottom_}},
+                 .role = selected ? Role::Selected : Role::Grid,
+                 .weight = selected ? 0.5 : 1});
         if (!free) continue;
         taken.emplace_back(left, left + width);
         Put(Words{.text = point.name,
