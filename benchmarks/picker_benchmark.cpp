@@ -3,7 +3,9 @@
 #include <random>
 
 #include "navigation_files.h"
-#include "startup/program.h"
+#include "procedure/pick_file.h"
+#include "program/program.h"
+#include "startup/initial_load.h"
 #include "timing.h"
 #include "toolkit/native_clock.h"
 #include "toolkit/native_file_system.h"

@@ -3,8 +3,9 @@
 #include <filesystem>
 #include <random>
 
-#include "procedure/procedure_lines.h"
 #include "procedure/procedure_reader.h"
+#include "procedure/procedure_save.h"
+#include "startup/shared_state.h"
 #include "toolkit/native_file_system.h"
 
 namespace tarvex::benchmarks {
@@ -20,20 +21,20 @@ class FullProcedure {
         state.ProcedureFolder = path_.parent_path().string() + '\\';
         state.ProcedureFileName = path_.filename().string();
         std::replace(state.ProcedureFolder.begin(), state.ProcedureFolder.end(), '/', '\\');
-        for (auto& row : state.WaypointTable) {
-            row.WaypointID = "BRAVO12";
-            row.WaypointType = "0";
-            row.CoordinatesEdited = True;
-            row.LatDegrees = "-33";
-            row.LatMinutes = "56.074041";
-            row.LongDegrees = "118";
-            row.LongMinutes = "24.740712";
-            row.Frequency = "113.60";
-            row.Airspeed = "250";
-            row.Altitude1 = "3000";
-            row.Altitude2 = "9000";
-            row.RestrictionType = "3";
-        }
+        WaypointRecord row;
+        row.WaypointID = "BRAVO12";
+        row.WaypointType = "0";
+        row.CoordinatesEdited = True;
+        row.LatDegrees = "-33";
+        row.LatMinutes = "56.074041";
+        row.LongDegrees = "118";
+        row.LongMinutes = "24.740712";
+        row.Frequency = "113.60";
+        row.Airspeed = "250";
+        row.Altitude1 = "3000";
+        row.Altitude2 = "9000";
+        row.RestrictionType = "3";
+        state.Rows.Assign(std::vector<WaypointRecord>(MaxWaypoints, row));
         Save();
     }
     ~FullProcedure() { std::filesystem::remove(path_); }
@@ -42,12 +43,11 @@ class FullProcedure {
 
     // The user's save of rows that all have a position to compute.
     void Save() {
-        std::vector<WaypointItems> lines(state.WaypointTable.size());
-        std::transform(state.WaypointTable.begin(), state.WaypointTable.end(), lines.begin(), ItemsForSave);
-        benchmark::DoNotOptimize(FindUnstorableItem(lines));
         files->Write(state.ProcedureFolder + state.ProcedureFileName,
-                     ProcedureText(CommentOfSave("5/14/2001", state.ProgramVersion), lines));
+                     ComposeProcedure(state.Rows.InUse(), "5/14/2001", state.ProgramVersion).text);
     }
+
+    void Read() { ReadProcedureFile(*files, state, state.ProgramVersion, state.Navigation, state.Rows); }
 
     std::unique_ptr<FileSystem> files = MakeNativeFileSystem();
     SharedState state;
@@ -58,7 +58,7 @@ class FullProcedure {
 
 void ProcedureRead(benchmark::State& state) {
     FullProcedure procedure;
-    for (auto _ : state) ReadProcedureFile(*procedure.files, procedure.state);
+    for (auto _ : state) procedure.Read();
 }
 BENCHMARK(ProcedureRead)->Unit(benchmark::kMicrosecond);
 

@@ -28,26 +28,31 @@ const WaypointRecord& KeptRow() {
     return row;
 }
 
-// The state of a program that has edited something before, with one runway in its tables. Who changes rows
-// puts them back: filling the whole table anew each time would take most of the time.
-SharedState& StateBefore(const char* mode) {
-    static SharedState state = [] {
-        SharedState made;
-        made.ProgramVersion = "2.35";
-        made.ProcedureFolder = "C:\\P\\";
-        made.ProcedureFileName = "KXYZ-DEMO1.wap";
-        made.Navigation.AirportTable[0] = {"KXYZ27L", "", "", 126};
-        made.Navigation.AirportCount = 0;
-        made.WaypointTable.fill(KeptRow());
-        return made;
-    }();
-    state.ProcedureMode = mode;
-    state.WaypointCount = KeptCount;
+// A program that has edited something before, with one runway in its tables.
+struct Before {
+    ProcedureVariables procedure{
+        .ProcedureMode = {}, .ProcedureFolder = "C:\\P\\", .ProcedureFileName = "KXYZ-DEMO1.wap"};
+    NavigationTables navigation;
+    ProcedureRows rows;
+
+    Before() {
+        navigation.AirportTable[0] = {"KXYZ27L", "", "", 126};
+        navigation.AirportCount = 0;
+    }
+};
+
+// Filling the whole table anew each time would take most of the time: who changes rows puts them back.
+Before& StateBefore(const char* mode) {
+    static Before state;
+    static const std::vector<WaypointRecord> full(MaxWaypoints, KeptRow());
+    if (state.rows.Count() == 0) state.rows.Assign(full);
+    state.rows.Assign(std::span(full).first(KeptCount));
+    state.procedure.ProcedureMode = mode;
     return state;
 }
 
-bool KeptFrom(const SharedState& state, std::ptrdiff_t row) {
-    return std::all_of(state.WaypointTable.begin() + row, state.WaypointTable.end(),
+bool KeptFrom(const ProcedureRows& rows, std::ptrdiff_t row) {
+    return std::all_of(rows.Table().begin() + row, rows.Table().end(),
                        [](const auto& each) { return each == KeptRow(); });
 }
 
@@ -59,25 +64,24 @@ struct Reading {
 
 // Nothing when the file was refused, which must have changed nothing.
 std::optional<Reading> Read(std::string_view text, const char* mode, bool fullDisk = false) {
-    SharedState& state = StateBefore(mode);
+    auto& [procedure, navigation, rows] = StateBefore(mode);
     testing::MemoryFileSystem files;
     files.Put(Path, std::string(text));
     if (fullDisk) files.FailWrite(Path, DiskFull);
     try {
-        ReadProcedureFile(files, state);
+        ReadProcedureFile(files, procedure, "2.35", navigation, rows);
     } catch (const Failure& failure) {
         Require(failure.Reason().find(Path) != std::string::npos, "a failure names the file");
-        Require(state.WaypointCount == KeptCount && KeptFrom(state, 0), "a failure leaves the table alone");
+        Require(rows.Count() == KeptCount && KeptFrom(rows, 0), "a failure leaves the table alone");
         Require(files.Writes() == 0 && files.Content(Path) == text, "a failure leaves the file alone");
         return std::nullopt;
     }
-    Require(state.WaypointCount >= 0 && state.WaypointCount <= MaxWaypoints, "the rows fit the table");
-    Require(KeptFrom(state, state.WaypointCount), "rows behind the last one stay");
+    Require(rows.Count() >= 0 && rows.Count() <= MaxWaypoints, "the rows fit the table");
+    Require(KeptFrom(rows, rows.Count()), "rows behind the last one stay");
     Require(files.Files("C:\\P").size() == 1, "only the file itself is written");
-    const auto begin = state.WaypointTable.begin();
-    const auto end = begin + state.WaypointCount;
-    Reading reading{Rows(begin, end), files.Content(Path), files.Writes() != 0};
-    std::fill(begin, end, KeptRow());
+    const auto inUse = rows.InUse();
+    Reading reading{Rows(inUse.begin(), inUse.end()), files.Content(Path), files.Writes() != 0};
+    rows.Assign(Rows(inUse.size(), KeptRow()));
     return reading;
 }
 

@@ -6,7 +6,7 @@
 
 #include "desktop/double_click_guard.h"
 #include "desktop/native_form.h"
-#include "startup/program.h"
+#include "program/program.h"
 #include "toolkit/act_queue.h"
 
 namespace tarvex {

@@ -8,7 +8,6 @@
 #include "procedure/procedure_file_name.h"
 #include "procedure/procedure_mode.h"
 #include "procedure/procedure_reader.h"
-#include "startup/program.h"
 
 namespace tarvex {
 
@@ -31,8 +30,12 @@ constexpr ModeCaptions Captions[] = {
 
 }  // namespace
 
-ModifyProcedure::ModifyProcedure(Program& program)
-    : Form(program.host, "ModifyProcedure", "Procedure Editor"), program_(program) {
+ModifyProcedure::ModifyProcedure(const Workplace& workplace, const EditorTools& tools)
+    : Form(workplace.host, "ModifyProcedure", "Procedure Editor"),
+      workplace_(workplace),
+      state_(workplace.state),
+      dialogue_(workplace.dialogue),
+      tools_(tools) {
     BasicNameText.SetLocked(true);
     TransitionText.SetLocked(true);
     RwySpecificCheck.SetEnabled(false);
@@ -45,40 +48,34 @@ ModifyProcedure::ModifyProcedure(Program& program)
     for (Button* button : {&ModifyWaypointCommand, &DeleteWaypointCommand, &MoveUp, &MoveDown}) {
         button->SetEnabled(false);
     }
-
-    ConnectScreen();
-    ConnectSave();
-    ConnectFields();
-    ConnectCoordinates();
-    ConnectRows();
-    ConnectTools();
+    Connect();
+    state_.Rows.Observe(*this);
+    ShowRowsInUse();
 }
 
-void ModifyProcedure::ConnectScreen() {
-    OopsCommand.OnClick = [this] { OopsCommand_Click(); };
-    ClearDataCommand.OnClick = [this] { ClearDataCommand_Click(); };
+ModifyProcedure::~ModifyProcedure() {
+    state_.Rows.EndObservation(*this);
 }
 
 void ModifyProcedure::Form_Load() {
-    program_.initialLoad.Hide();
+    workplace_.initialLoad.Hide();
     LatEdited = False;
     LongEdited = False;
-    SharedState& state = program_.state;
-    const bool stored = ModifiesProcedure(state.ProcedureMode);
+    const bool stored = ModifiesProcedure(state_.ProcedureMode);
     OpenNameBoxes(!stored);
-    const auto captions = std::find_if(std::begin(Captions), std::end(Captions), [&state](const auto& entry) {
-        return entry.mode == state.ProcedureMode;
+    const auto captions = std::find_if(std::begin(Captions), std::end(Captions), [this](const auto& entry) {
+        return entry.mode == state_.ProcedureMode;
     });
     if (captions != std::end(Captions)) {
         SetCaption(captions->form);
         ActionLabel.SetCaption(captions->action);
     }
-    (state.DefaultLatHemisphere == "N" ? NLatOption : SLatOption).Select();
-    (state.DefaultLongHemisphere == "E" ? ELongOption : WLongOption).Select();
+    (state_.DefaultLatHemisphere == "N" ? NLatOption : SLatOption).Select();
+    (state_.DefaultLongHemisphere == "E" ? ELongOption : WLongOption).Select();
     if (stored) {
         LoadStoredProcedure();
     } else {
-        state.WaypointCount = 0;
+        state_.Rows.Assign({});
     }
 }
 
@@ -91,28 +88,26 @@ void ModifyProcedure::OpenNameBoxes(bool open) {
             box->SetBackColor(LightGrey);
         }
     }
-    if (open) WaypointList.Clear();
 }
 
 void ModifyProcedure::LoadStoredProcedure() {
-    Program& program = program_;
     try {
         ShowStoredName();
-        ReadProcedureFile(program.platform.files, program.state);
-        ShowStoredRows();
+        ReadProcedureFile(workplace_.platform.files, state_, state_.ProgramVersion, state_.Navigation,
+                          state_.Rows);
+        OrderStoredAltitudes();
     } catch (const ProcedureDataError& error) {
-        program.Ask(editor_messages::FatalData(program.state.ProcedureFileName));
-        program.Stop(1, error.Reason());
+        dialogue_.Ask(editor_messages::FatalData(state_.ProcedureFileName));
+        StopProgram(1, error.Reason());
     } catch (const Failure& failure) {
-        program.modifyProcedure.Unload();
-        program.Ask(editor_messages::NotOpened(program.state.ProcedureFileName, failure.Reason()));
+        Unload();
+        dialogue_.Ask(editor_messages::NotOpened(state_.ProcedureFileName, failure.Reason()));
     }
 }
 
 void ModifyProcedure::ShowStoredName() {
-    const std::string& fileName = program_.state.ProcedureFileName;
-    FilenameText.SetCaption(fileName);
-    const ProcedureName name = SplitProcedureFileName(fileName);
+    FilenameText.SetCaption(state_.ProcedureFileName);
+    const ProcedureName name = SplitProcedureFileName(state_.ProcedureFileName);
     AptNameText.SetText(name.icao);
     BasicNameText.SetText(name.basicName);
     TransitionText.SetText(name.secondName);
@@ -121,30 +116,53 @@ void ModifyProcedure::ShowStoredName() {
     RwySpecificCheck.SetValue(runway ? 1 : 0);
 }
 
-void ModifyProcedure::ShowStoredRows() {
-    WaypointRecord* rows = program_.state.WaypointTable.data();
-    std::vector<std::string> lines;
-    for (WaypointRecord* row = rows; row != rows + program_.state.WaypointCount; ++row) {
-        // The screen has the lower altitude of a band in Altitude1, the file in the column of Altitude2.
-        OrderAltitudes(*row);
-        lines.push_back(row->WaypointID.Text());
+// The screen has the lower altitude of a band in Altitude1, the file in the column of Altitude2.
+void ModifyProcedure::OrderStoredAltitudes() {
+    for (int index = 0; index < state_.Rows.Count(); ++index) {
+        WaypointRecord row = state_.Rows.InUse()[static_cast<std::size_t>(index)];
+        OrderAltitudes(row);
+        state_.Rows.Replace(index, row);
     }
-    WaypointList.SetLines(std::move(lines));
+}
+
+void ModifyProcedure::RowsChanged(const ProcedureRows::Change& change) {
+    const auto& lines = state_.Rows.Lines();
+    const auto line = [&lines](int index) -> const std::string& {
+        return lines[static_cast<std::size_t>(index)];
+    };
+    switch (change.kind) {
+        case ProcedureRows::Change::Kind::Appended:
+            WaypointList.AddItem(line(change.row));
+            break;
+        case ProcedureRows::Change::Kind::Replaced:
+            break;
+        case ProcedureRows::Change::Kind::Erased:
+            WaypointList.RemoveItem(change.row);
+            break;
+        case ProcedureRows::Change::Kind::Exchanged:
+        case ProcedureRows::Change::Kind::Assigned:
+            WaypointList.SetLines(lines);
+            break;
+    }
+    ShowRowsInUse();
+}
+
+void ModifyProcedure::LetChooseRunway(bool usable) {
+    if (usable) RwySpecificCheck.SetEnabled(true);
+    RwySpecificCheck.SetValue(0);
+    if (!usable) RwySpecificCheck.SetEnabled(false);
 }
 
 void ModifyProcedure::Form_Unload() {
+    state_.Rows.EndObservation(*this);
     // Off the screen first, so that no rule of a box complains while the focus moves to the menu.
-    program_.modifyProcedure.Hide();
-    program_.findWaypointForm.Unload();
-    program_.addARC.Unload();
-    program_.latLongForm.Unload();
-    program_.createWaypointForm.Unload();
-    program_.initialLoad.Show();
+    Hide();
+    workplace_.initialLoad.Show();
 }
 
 void ModifyProcedure::OopsCommand_Click() {
     FilenameText.SetCaption("");
-    program_.modifyProcedure.Unload();
+    Unload();
 }
 
 void ModifyProcedure::ClearDataCommand_Click() {

@@ -1,21 +1,25 @@
 #pragma once
 
-#include "procedure/waypoint_record.h"
-#include "toolkit/failure.h"
+#include "editor/editor_tools.h"
+#include "geometry/coordinate_group.h"
+#include "navigation/search_hit.h"
+#include "procedure/procedure_rows.h"
+#include "startup/workplace.h"
 #include "toolkit/form.h"
 #include "toolkit/list_box.h"
 #include "toolkit/simple_controls.h"
 
 namespace tarvex {
 
-class Program;
+struct PositionTexts;
 
 // The editing screen of all three kinds of procedure, for creating and for modifying. Its boxes are the
 // working copy of one waypoint; row i of the waypoint table and line i of WaypointList stand for the same
 // waypoint.
-class ModifyProcedure : public Form {
+class ModifyProcedure : public Form, private RowsObserver {
   public:
-    explicit ModifyProcedure(Program& program);
+    ModifyProcedure(const Workplace& workplace, const EditorTools& tools);
+    ~ModifyProcedure() override;
 
     // Name boxes and file name.
     Label ActionLabel{*this, "ActionLabel", "", 43};
@@ -84,6 +88,9 @@ class ModifyProcedure : public Form {
     Label Label8{*this, "Label8", "Find Airport", 57};
     Label RowsLabel{*this, "RowsLabel", "", 60};  // rows in use, of all there are; red when few are left
 
+    const CoordinateGroup Latitude{LatitudeAxis, DDMLatText, DMMLatText, NLatOption, SLatOption};
+    const CoordinateGroup Longitude{LongitudeAxis, DDMLongText, DMMLongText, ELongOption, WLongOption};
+
     // The latitude, and the longitude, boxes were left with an accepted text since the flag was last cleared.
     Flag LatEdited = False;
     Flag LongEdited = False;
@@ -100,29 +107,31 @@ class ModifyProcedure : public Form {
     void Form_Unload() override;
     void OopsCommand_Click();
     void ClearDataCommand_Click();
+    // Whether a new procedure can be runway specific; unchecks RwySpecificCheck.
+    void LetChooseRunway(bool usable);
 
     // Sets the caption of FilenameText from the name boxes (modify_procedure_save.cpp).
     void BuildFilename();
-    void AptNameText_LostFocus();
-    void BasicNameText_LostFocus();
-    void TransitionText_LostFocus();
+    void AptNameText_LostFocus() { BuildFilename(); }
+    void BasicNameText_LostFocus() { BuildFilename(); }
+    void TransitionText_LostFocus() { BuildFilename(); }
     void SaveCommand_Click();
 
-    // Rules of the boxes (modify_procedure_fields.cpp, modify_procedure_coordinates.cpp).
-    void FixNameText_lostfocus();
-    void NAVIDText_LostFocus();
-    void FreqText_LostFocus();
-    void Alt1Text_LostFocus();
-    void Alt2Text_LostFocus();
-    void AirspeedText_Change();
-    void DDMLatText_LostFocus();
-    void DMMLatText_LostFocus();
-    void DDMLongText_LostFocus();
-    void DMMLongText_LostFocus();
-    void NorestrictionOption_Click();
-    void AtOption_Click();
-    void AtBelowOption_Click();
-    void AtAboveOption_Click();
+    // Rules of the boxes (modify_procedure_fields.cpp).
+    void FixNameText_lostfocus() { PutIntoCapitals(FixNameText); }
+    void NAVIDText_LostFocus() { PutIntoCapitals(NAVIDText); }
+    void FreqText_LostFocus() { RequireNumber(FreqText); }
+    void Alt1Text_LostFocus() { RequireNumber(Alt1Text); }
+    void Alt2Text_LostFocus() { RequireNumber(Alt2Text); }
+    void AirspeedText_Change() { RequireNumber(AirspeedText); }
+    void DDMLatText_LostFocus() { LeaveCoordinate(DDMLatText, Latitude.DegreesComplaint(), LatEdited); }
+    void DMMLatText_LostFocus() { LeaveCoordinate(DMMLatText, Latitude.MinutesComplaint(), LatEdited); }
+    void DDMLongText_LostFocus() { LeaveCoordinate(DDMLongText, Longitude.DegreesComplaint(), LongEdited); }
+    void DMMLongText_LostFocus() { LeaveCoordinate(DMMLongText, Longitude.MinutesComplaint(), LongEdited); }
+    void NorestrictionOption_Click() { ShowOneAltitude(); }
+    void AtOption_Click() { ShowOneAltitude(); }
+    void AtBelowOption_Click() { ShowOneAltitude(); }
+    void AtAboveOption_Click() { ShowOneAltitude(); }
     void AtAboveAtBelowOption_Click();
     void RwySpecificCheck_Click();
 
@@ -134,27 +143,32 @@ class ModifyProcedure : public Form {
     void MoveUp_Click();
     void MoveDown_Click();
 
-    // Opening the tools (modify_procedure_tools.cpp).
-    void FindFixCommand_Click();
-    void FindNavCommand_Click();
-    void FindAirportCommand_Click();
+    // Opening the tools, and what they bring (modify_procedure_tools.cpp).
+    void FindFixCommand_Click() { SearchForBoxes("F"); }
+    void FindNavCommand_Click() { SearchForBoxes("N"); }
+    void FindAirportCommand_Click() { SearchForBoxes("AP"); }
     void AddArcCommand_Click();
     void CreateWaypointCommand_Click();
+    // Puts the name and the position of a found entry into the boxes. An airport entry becomes a runway
+    // waypoint in an approach.
+    void TakeHit(const SearchHit& hit);
 
   private:
-    // Connect the events of the controls with the operations; one for each source file.
-    void ConnectScreen();
-    void ConnectSave();
-    void ConnectFields();
-    void ConnectCoordinates();
-    void ConnectRows();
-    void ConnectTools();
+    // Connects the events of the controls with the operations.
+    void Connect();
+
+    void RowsChanged(const ProcedureRows::Change& change) override;
 
     // Steps of Form_Load.
     void OpenNameBoxes(bool open);
     void LoadStoredProcedure();
     void ShowStoredName();
-    void ShowStoredRows();
+    void OrderStoredAltitudes();
+
+    static void PutIntoCapitals(TextBox& box);
+    void RequireNumber(TextBox& box);
+    void LeaveCoordinate(TextBox& box, std::string_view complaint, Flag& edited);
+    void ShowOneAltitude();
 
     // Steps of SaveCommand_Click; false: the user was told why the save ends here.
     bool NameCanBeSaved();
@@ -167,7 +181,19 @@ class ModifyProcedure : public Form {
     // Exchanges the selected row with its neighbour, one up (-1) or down (1), and selects it there.
     void MoveSelected(int by);
 
-    Program& program_;
+    // Opens the search anew as a tool of `opener`.
+    void OpenSearch(std::string_view kind, const Form& opener, std::function<void(const SearchHit&)> take);
+    void SearchForBoxes(std::string_view kind);
+    void SearchForCenter();
+    void SearchForStart(std::string_view kind);
+    void FillPosition(const SearchHit& hit);
+    void AppendArcPoint(const std::string& name, const PositionTexts& position);
+    void TakeDerived(const std::string& name, const PositionTexts& position);
+
+    const Workplace& workplace_;
+    SharedState& state_;
+    Dialogue& dialogue_;
+    EditorTools tools_;
 };
 
 }  // namespace tarvex

@@ -5,7 +5,6 @@
 #include "editor/editor_messages.h"
 #include "editor/modify_procedure.h"
 #include "geometry/text_rules.h"
-#include "startup/program.h"
 
 namespace tarvex {
 
@@ -15,10 +14,6 @@ constexpr int ManyRows = MaxWaypoints - 5;
 
 std::string_view OrZero(const TextBox& box) {
     return box.Text().empty() ? "0" : std::string_view(box.Text());
-}
-
-std::string Signed(const TextBox& degrees, bool positive) {
-    return positive ? degrees.Text() : "-" + degrees.Text();
 }
 
 std::string_view RestrictionCode(const ModifyProcedure& form) {
@@ -47,16 +42,16 @@ std::pair<const Message*, TextBox*> MissingForAdd(ModifyProcedure& form) {
 
 // The boxes as a new row. Its decimals are those of the last search whatever the boxes hold: degrees and
 // minutes are the current form.
-WaypointRecord NewRow(const ModifyProcedure& form, const SharedState& state) {
+WaypointRecord NewRow(const ModifyProcedure& form, const SearchVariables& search) {
     WaypointRecord row;
     row.WaypointID = form.NAVIDText.Text().empty() ? form.FixNameText.Text() : form.NAVIDText.Text();
-    row.WaypointType = state.RunwayTransfer != False ? "15" : "0";
-    row.LatDecimal = NumberText(state.TransferLatDecimal);
-    row.LatDegrees = Signed(form.DDMLatText, form.NLatOption.Value());
+    row.WaypointType = search.RunwayTransfer != False ? "15" : "0";
+    row.LatDecimal = NumberText(search.TransferLatDecimal);
+    row.LatDegrees = form.Latitude.SignedDegrees();
     row.LatMinutes = form.DMMLatText.Text();
     row.CoordinatesEdited = True;
-    row.LongDecimal = NumberText(state.TransferLongDecimal);
-    row.LongDegrees = Signed(form.DDMLongText, form.ELongOption.Value());
+    row.LongDecimal = NumberText(search.TransferLongDecimal);
+    row.LongDegrees = form.Longitude.SignedDegrees();
     row.LongMinutes = form.DMMLongText.Text();
     row.Frequency = form.FixNameText.Text().empty() ? form.FreqText.Text() : "0";
     row.Airspeed = OrZero(form.AirspeedText);
@@ -84,45 +79,32 @@ const Message* Unmodifiable(const ModifyProcedure& form) {
 
 }  // namespace
 
-void ModifyProcedure::ConnectRows() {
-    ShowRowsInUse();
-    WaypointList.OnCount = [this] { ShowRowsInUse(); };
-    WaypointList.OnClick = [this] { WaypointList_Click(); };
-    AddWaypointCommand.OnClick = [this] { AddWaypointCommand_Click(); };
-    ModifyWaypointCommand.OnClick = [this] { ModifyWaypointCommand_Click(); };
-    DeleteWaypointCommand.OnClick = [this] { DeleteWaypointCommand_Click(); };
-    MoveUp.OnClick = [this] { MoveUp_Click(); };
-    MoveDown.OnClick = [this] { MoveDown_Click(); };
-}
-
 void ModifyProcedure::ShowRowsInUse() {
-    const int rows = WaypointList.ListCount();
+    const int rows = state_.Rows.Count();
     RowsLabel.SetCaption(NumberText(rows) + " of " + NumberText(MaxWaypoints));
     RowsLabel.SetForeColor(rows >= ManyRows ? Red : Black);
 }
 
 void ModifyProcedure::AddWaypointCommand_Click() {
-    SharedState& state = program_.state;
     ClearDataCommand.SetEnabled(true);
     if (!WaypointList.Text().empty()) {
-        if (program_.Ask(editor_messages::AddWhileSelected) == MessageAnswer::Yes) ClearDataCommand_Click();
+        if (dialogue_.Ask(editor_messages::AddWhileSelected) == MessageAnswer::Yes) ClearDataCommand_Click();
         return;
     }
-    if (state.WaypointCount >= MaxWaypoints) {
-        program_.Ask(editor_messages::TableFull);
+    if (state_.Rows.Free() == 0) {
+        dialogue_.Ask(editor_messages::TableFull);
         return;
     }
     if (const auto [message, box] = MissingForAdd(*this); message != nullptr) {
-        program_.Ask(*message);
+        dialogue_.Ask(*message);
         box->SetFocus();
         if (message == &editor_messages::NameMissing) FreqText.SetText("");
         return;
     }
     BuildFilename();
-    state.WaypointTable.at(static_cast<std::size_t>(state.WaypointCount)) = NewRow(*this, state);
-    ++state.WaypointCount;
     // Both names may be filled: the row is then named for the navaid and the line for the fix.
-    WaypointList.AddItem(FixNameText.Text().empty() ? NAVIDText.Text() : FixNameText.Text());
+    state_.Rows.Append(NewRow(*this, state_),
+                       FixNameText.Text().empty() ? NAVIDText.Text() : FixNameText.Text());
     ClearDataCommand_Click();
     LatEdited = False;
     LongEdited = False;
@@ -130,30 +112,31 @@ void ModifyProcedure::AddWaypointCommand_Click() {
 
 void ModifyProcedure::ModifyWaypointCommand_Click() {
     if (AtAboveAtBelowOption.Value() && (Alt1Text.Text().empty() || Alt2Text.Text().empty())) {
-        program_.Ask(editor_messages::BandIncomplete);
+        dialogue_.Ask(editor_messages::BandIncomplete);
         return;
     }
-    if (WaypointList.ListIndex() == ListBox::NoSelection) {
+    const int index = WaypointList.ListIndex();
+    if (index == ListBox::NoSelection) {
         LatEdited = False;
         LongEdited = False;
         return;
     }
     if (const Message* message = Unmodifiable(*this)) {
-        program_.Ask(*message);
+        dialogue_.Ask(*message);
         return;
     }
-    WaypointRecord& row = program_.state.WaypointTable.at(static_cast<std::size_t>(WaypointList.ListIndex()));
+    WaypointRecord row = state_.WaypointTable.at(static_cast<std::size_t>(index));
     row.WaypointID = FixNameText.Text().empty() ? NAVIDText.Text() : FixNameText.Text();
     ForceSign(row.LatDecimal, NLatOption.Value());
     if (LatEdited != False) {
         row.CoordinatesEdited = True;
-        row.LatDegrees = Signed(DDMLatText, NLatOption.Value());
+        row.LatDegrees = Latitude.SignedDegrees();
         row.LatMinutes = DMMLatText.Text();
     }
     ForceSign(row.LongDecimal, ELongOption.Value());
     if (LongEdited != False) {
         row.CoordinatesEdited = True;
-        row.LongDegrees = Signed(DDMLongText, ELongOption.Value());
+        row.LongDegrees = Longitude.SignedDegrees();
         row.LongMinutes = DMMLongText.Text();
     }
     row.Frequency = OrZero(FreqText);
@@ -161,6 +144,7 @@ void ModifyProcedure::ModifyWaypointCommand_Click() {
     row.Altitude2 = OrZero(Alt2Text);
     row.Altitude1 = OrZero(Alt1Text);
     row.RestrictionType = RestrictionCode(*this);
+    state_.Rows.Replace(index, row);
     LatEdited = False;
     LongEdited = False;
 }
@@ -168,19 +152,11 @@ void ModifyProcedure::ModifyWaypointCommand_Click() {
 void ModifyProcedure::DeleteWaypointCommand_Click() {
     const int index = WaypointList.ListIndex();
     if (index == ListBox::NoSelection) {
-        program_.Ask(editor_messages::NothingSelected);
+        dialogue_.Ask(editor_messages::NothingSelected);
         return;
     }
-    WaypointList.RemoveItem(index);
+    state_.Rows.Erase(index);
     ClearDataCommand_Click();
-    SharedState& state = program_.state;
-    WaypointRows& rows = state.WaypointTable;
-    // The row set free takes what the first free row holds, where there is one.
-    const int last = std::min(state.WaypointCount, MaxWaypoints - 1);
-    std::copy(rows.begin() + index + 1, rows.begin() + last + 1, rows.begin() + index);
-    --state.WaypointCount;
-    LatEdited = False;
-    LongEdited = False;
 }
 
 void ModifyProcedure::MoveUp_Click() {
@@ -194,13 +170,8 @@ void ModifyProcedure::MoveDown_Click() {
 
 void ModifyProcedure::MoveSelected(int by) {
     const int from = WaypointList.ListIndex();
-    const int to = from + by;
-    const std::string line = WaypointList.Text();
-    WaypointList.RemoveItem(from);
-    WaypointList.AddItem(line, to);
-    WaypointRows& rows = program_.state.WaypointTable;
-    std::swap(rows.at(static_cast<std::size_t>(from)), rows.at(static_cast<std::size_t>(to)));
-    WaypointList.SetListIndex(to);
+    state_.Rows.Exchange(from, from + by);
+    WaypointList.SetListIndex(from + by);
 }
 
 }  // namespace tarvex

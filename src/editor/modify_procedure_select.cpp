@@ -2,7 +2,6 @@
 
 #include "editor/modify_procedure.h"
 #include "geometry/text_rules.h"
-#include "startup/program.h"
 
 namespace tarvex {
 
@@ -19,16 +18,10 @@ void VisitFromList(ModifyProcedure& form, TextBox& box) {
     form.WaypointList.SetFocus();
 }
 
-void ShowPosition(ModifyProcedure& form, const WaypointRecord& row) {
-    (LeadingNumber(row.LatDecimal) < 0 ? form.SLatOption : form.NLatOption).Select();
-    form.DDMLatText.SetText(ShownDegrees(row.LatDegrees));
-    form.DMMLatText.SetText(row.LatMinutes);
-    VisitFromList(form, form.DDMLatText);
-
-    (LeadingNumber(row.LongDecimal) < 0 ? form.WLongOption : form.ELongOption).Select();
-    form.DDMLongText.SetText(ShownDegrees(row.LongDegrees));
-    form.DMMLongText.SetText(row.LongMinutes);
-    VisitFromList(form, form.DDMLongText);
+void ShowCoordinate(ModifyProcedure& form, const CoordinateGroup& group, const std::string& decimal,
+                    const std::string& degrees, const std::string& minutes) {
+    group.Fill(ShownDegrees(degrees), minutes, LeadingNumber(decimal) < 0);
+    VisitFromList(form, group.degrees);
 }
 
 void ShowAltitudes(ModifyProcedure& form, const WaypointRecord& row) {
@@ -97,8 +90,9 @@ void ModifyProcedure::WaypointList_Click() {
     ClearDataCommand.SetEnabled(true);
 
     const auto index = static_cast<std::size_t>(WaypointList.ListIndex());
-    const WaypointRecord& row = program_.state.WaypointTable.at(index);
-    ShowPosition(*this, row);
+    const WaypointRecord& row = state_.WaypointTable.at(index);
+    ShowCoordinate(*this, Latitude, row.LatDecimal, row.LatDegrees, row.LatMinutes);
+    ShowCoordinate(*this, Longitude, row.LongDecimal, row.LongDegrees, row.LongMinutes);
     ShowAltitudes(*this, row);
     AirspeedText.SetText(LeadingNumber(row.Airspeed) == 0 ? std::string_view() : row.Airspeed.View());
     if (LeadingNumber(row.Frequency) == 0) {

@@ -4,9 +4,8 @@
 #include <string_view>
 
 #include "geometry/coordinate_rules.h"
-#include "geometry/rhumb_line_step.h"
+#include "geometry/lat_long_form.h"
 #include "geometry/text_rules.h"
-#include "startup/program.h"
 
 namespace tarvex {
 
@@ -25,9 +24,9 @@ constexpr std::string_view NoLength = "This ARC has no length.\r\n        Please
 constexpr std::string_view ReachesPole =
     "This ARC reaches or passes a pole.\r\n               Please correct.";
 
-std::string TooManyRows(std::size_t needed, std::size_t free) {
-    return "This ARC needs " + std::to_string(needed) + " rows, and only " + std::to_string(free) + " of " +
-           std::to_string(MaxWaypoints) + " are free.";
+std::string TooManyRows(std::size_t needed, int free) {
+    return "This ARC needs " + std::to_string(needed) + " rows, and only " + std::to_string(free) +
+           " of 201 are free.";
 }
 
 std::string_view RadialComplaint(std::string_view text) {
@@ -36,7 +35,13 @@ std::string_view RadialComplaint(std::string_view text) {
 
 }  // namespace
 
-AddARC::AddARC(Program& program) : Form(program.host, "AddARC", "ARC Designer"), program_(program) {
+AddARC::AddARC(FormHost& host, Dialogue& dialogue, ArcVariables& variables, std::string& magVarSide,
+               FormSlot<LatLongForm>& latLongForm)
+    : Form(host, "AddARC", "ARC Designer"),
+      dialogue_(dialogue),
+      variables_(variables),
+      magVarSide_(magVarSide),
+      latLongForm_(latLongForm) {
     MagVarText.PutInto(Frame2);
     ArcLabelText.SetLocked(true);
     ArcLabelText.SetVisible(false);
@@ -52,32 +57,44 @@ AddARC::AddARC(Program& program) : Form(program.host, "AddARC", "ARC Designer"),
 }
 
 void AddARC::Form_Load() {
-    (program_.state.MagVarSide == "W" ? WestVarOption : EastVarOption).Select();
+    (magVarSide_ == "W" ? WestVarOption : EastVarOption).Select();
     NavaidCenter = true;
 }
 
 void AddARC::ArcStartText_LostFocus() {
-    program_.Complain(RadialComplaint(ArcStartText.Text()), ArcStartText);
+    dialogue_.Complain(RadialComplaint(ArcStartText.Text()), ArcStartText);
 }
 
 void AddARC::ArcEndText_LostFocus() {
-    program_.Complain(RadialComplaint(ArcEndText.Text()), ArcEndText);
+    dialogue_.Complain(RadialComplaint(ArcEndText.Text()), ArcEndText);
 }
 
 void AddARC::ArcRadiusText_LostFocus() {
-    program_.Complain(NumberComplaint(ArcRadiusText.Text()), ArcRadiusText);
+    dialogue_.Complain(NumberComplaint(ArcRadiusText.Text()), ArcRadiusText);
 }
 
 void AddARC::MagVarText_LostFocus() {
-    program_.Complain(NumberComplaint(MagVarText.Text()), MagVarText);
+    dialogue_.Complain(NumberComplaint(MagVarText.Text()), MagVarText);
 }
 
-void AddARC::Command1_Click() {
-    OpenSearch(program_, "A");
+void AddARC::TakeCenter(std::string_view label, const Position& center) {
+    variables_.ArcCenterLat = NumberText(center.latitude);
+    variables_.ArcCenterLong = NumberText(center.longitude);
+    ShowLabel(label);
+}
+
+void AddARC::ShowLabel(std::string_view label) {
+    ArcLabelText.SetText(label);
+    Label4.SetVisible(true);
+    ArcLabelText.SetVisible(true);
 }
 
 void AddARC::LatLongCommand_Click() {
-    program_.latLongForm.Show();
+    latLongForm_.ShowAsToolOf(*this);
+    latLongForm_.Get()->OnDone = [this] {
+        ShowLabel("ARC");
+        Frame2.SetVisible(false);
+    };
     NavaidCenter = false;
 }
 
@@ -86,22 +103,19 @@ void AddARC::TransferCommand_Click() {
     const ArcLayout arc = LayOutArc(Request());
     if (!Accept(arc)) return;
 
-    program_.state.ArcPointNumber = 1;
+    variables_.ArcPointNumber = 1;
     for (const ArcPoint& point : arc.points) {
-        DeliverPosition(program_, point.position, StepDelivery::NewRow);
+        OnPoint(ArcLabelText.Text() + NumberText(variables_.ArcPointNumber), PositionTextsOf(point.position));
+        ++variables_.ArcPointNumber;
     }
-    program_.state.MagVarSide = WestVarOption.Value() ? "W" : "E";
-    program_.addARC.Unload();
-}
-
-void AddARC::ExitCommand_Click() {
-    program_.addARC.Unload();
+    magVarSide_ = WestVarOption.Value() ? "W" : "E";
+    Unload();
 }
 
 bool AddARC::BoxesAreFilled() {
-    if (ArcLabelText.Text().empty()) return !program_.Complain(NoCenterpoint, ArcStartText);
+    if (ArcLabelText.Text().empty()) return !dialogue_.Complain(NoCenterpoint, ArcStartText);
     for (const TextBox* box : {&ArcStartText, &ArcEndText, &ArcRadiusText}) {
-        if (box->Text().empty()) return !program_.Complain(BoxesMissing, ArcStartText);
+        if (box->Text().empty()) return !dialogue_.Complain(BoxesMissing, ArcStartText);
     }
     return true;
 }
@@ -109,7 +123,7 @@ bool AddARC::BoxesAreFilled() {
 bool AddARC::VariationIsMeant() {
     if (!MagVarText.Text().empty() || !NavaidCenter) return true;
     const MessageAnswer answer =
-        program_.Ask({.prompt = std::string(IsVariationZero), .buttons = MessageButtons::YesNo});
+        dialogue_.Ask({.prompt = std::string(IsVariationZero), .buttons = MessageButtons::YesNo});
     if (answer == MessageAnswer::Yes) {
         MagVarText.SetText("0");
         return true;
@@ -120,25 +134,25 @@ bool AddARC::VariationIsMeant() {
 
 bool AddARC::TurnIsChosen() {
     if (RightOption.Value() || LeftOption.Value()) return true;
-    return !program_.Complain(NoTurnDirection, MagVarText);
+    return !dialogue_.Complain(NoTurnDirection, MagVarText);
 }
 
 bool AddARC::Accept(const ArcLayout& arc) {
-    if (arc.fault == ArcFault::NoLength) return !program_.Complain(NoLength, ArcEndText);
+    if (arc.fault == ArcFault::NoLength) return !dialogue_.Complain(NoLength, ArcEndText);
     if (arc.fault == ArcFault::ReachesPole) {
-        program_.Ask({.prompt = std::string(ReachesPole)});
+        dialogue_.Ask({.prompt = std::string(ReachesPole)});
         return false;
     }
-    const auto free = static_cast<std::size_t>(MaxWaypoints - program_.state.WaypointCount);
-    if (arc.points.size() <= free) return true;
-    program_.Ask({.prompt = TooManyRows(arc.points.size(), free)});
+    const int free = RoomForPoints();
+    if (std::ssize(arc.points) <= free) return true;
+    dialogue_.Ask({.prompt = TooManyRows(arc.points.size(), free)});
     return false;
 }
 
 ArcRequest AddARC::Request() const {
     return {
-        .centerLat = LeadingNumber(program_.state.ArcCenterLat),
-        .centerLong = LeadingNumber(program_.state.ArcCenterLong),
+        .centerLat = LeadingNumber(variables_.ArcCenterLat),
+        .centerLong = LeadingNumber(variables_.ArcCenterLong),
         .start = LeadingNumber(ArcStartText.Text()),
         .end = LeadingNumber(ArcEndText.Text()),
         .radius = LeadingNumber(ArcRadiusText.Text()),

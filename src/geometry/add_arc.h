@@ -1,18 +1,26 @@
 #pragma once
 
+#include <functional>
+#include <string>
+
 #include "geometry/arc_layout.h"
-#include "toolkit/form.h"
+#include "geometry/position.h"
+#include "geometry/tool_variables.h"
+#include "toolkit/dialogue.h"
+#include "toolkit/form_host.h"
 #include "toolkit/simple_controls.h"
 
 namespace tarvex {
 
-class Program;
+class LatLongForm;
 
-// The ARC designer: lays out an arc around a centre as a chain of waypoints behind the others of the
-// procedure. The centre is a navaid found by the search or comes from LatLongForm.
+// The ARC designer: lays out an arc around a centre as a chain of waypoints, for whoever opened it. The
+// centre is a navaid that its opener finds, or comes from LatLongForm.
 class AddARC : public Form {
   public:
-    explicit AddARC(Program& program);
+    // `magVarSide`: "W" or "E", the side of the variation that was used last.
+    AddARC(FormHost& host, Dialogue& dialogue, ArcVariables& variables, std::string& magVarSide,
+           FormSlot<LatLongForm>& latLongForm);
 
     Label Label1{*this, "Label1", "ARC Start"};
     TextBox ArcStartText{*this, "ArcStartText", 3, 0};  // radial, degrees
@@ -41,10 +49,22 @@ class AddARC : public Form {
     void ArcEndText_LostFocus();
     void ArcRadiusText_LostFocus();
     void MagVarText_LostFocus();
-    void Command1_Click();
+    void Command1_Click() { OnSelectNavaid(); }
     void LatLongCommand_Click();
     void TransferCommand_Click();
-    void ExitCommand_Click();
+    void ExitCommand_Click() { Unload(); }
+
+    // The navaid to be the centre is wanted; TakeCenter gets it.
+    std::function<void()> OnSelectNavaid;
+    void TakeCenter(std::string_view label, const Position& center);
+
+    // How many points can be taken still, and who takes those of the arc, one by one in flying order, with
+    // their names.
+    std::function<int()> RoomForPoints;
+    std::function<void(const std::string& name, const PositionTexts& position)> OnPoint;
+
+    // The arc that the boxes describe as they are, empty ones as 0.
+    ArcRequest Request() const;
 
   private:
     // Each shows its message and moves the focus when it fails.
@@ -53,9 +73,12 @@ class AddARC : public Form {
     bool TurnIsChosen();
     bool Accept(const ArcLayout& arc);
 
-    ArcRequest Request() const;
+    void ShowLabel(std::string_view label);
 
-    Program& program_;
+    Dialogue& dialogue_;
+    ArcVariables& variables_;
+    std::string& magVarSide_;
+    FormSlot<LatLongForm>& latLongForm_;
     bool NavaidCenter = true;  // false for good once LatLongCommand was pressed
 };
 

@@ -6,9 +6,7 @@
 #include <utility>
 
 #include "geometry/coordinate_rules.h"
-#include "geometry/rhumb_line_step.h"
 #include "geometry/text_rules.h"
-#include "startup/program.h"
 
 namespace tarvex {
 
@@ -32,8 +30,8 @@ std::string_view CourseComplaint(std::string_view text) {
 
 }  // namespace
 
-CreateWaypointForm::CreateWaypointForm(Program& program)
-    : Form(program.host, "CreateWaypointForm", "Create a Waypoint"), program_(program) {
+CreateWaypointForm::CreateWaypointForm(FormHost& host, Dialogue& dialogue, StartPointVariables& variables)
+    : Form(host, "CreateWaypointForm", "Create a Waypoint"), dialogue_(dialogue), variables_(variables) {
     for (Control* control : std::initializer_list<Control*>{&NavaidCommand, &Label1, &FixCommand, &Label2,
                                                             &RunwayCommand, &Label3}) {
         control->PutInto(Frame1);
@@ -48,57 +46,62 @@ CreateWaypointForm::CreateWaypointForm(Program& program)
 }
 
 void CreateWaypointForm::Form_Load() {
-    program_.state.StartPointSelected = False;
+    variables_.StartPointSelected = False;
 }
 
-void CreateWaypointForm::NavaidCommand_Click() {
-    OpenSearch(program_, "CN");
-}
-
-void CreateWaypointForm::FixCommand_Click() {
-    OpenSearch(program_, "CF");
-}
-
-void CreateWaypointForm::RunwayCommand_Click() {
-    OpenSearch(program_, "CAP");
+void CreateWaypointForm::TakeStart(const Position& start, std::string_view picked) {
+    variables_.StartLat = LeadingNumber(NumberText(start.latitude));
+    variables_.StartLong = LeadingNumber(NumberText(start.longitude));
+    variables_.StartPointSelected = True;
+    SelectedText.SetCaption(picked);
+    for (Control* control : std::initializer_list<Control*>{&Label1, &Label2, &Label3, &NavaidCommand,
+                                                            &FixCommand, &RunwayCommand}) {
+        control->SetEnabled(false);
+    }
+    TrueCourseText.SetFocus();
 }
 
 void CreateWaypointForm::TrueCourseText_LostFocus() {
-    program_.Complain(CourseComplaint(TrueCourseText.Text()), TrueCourseText);
+    dialogue_.Complain(CourseComplaint(TrueCourseText.Text()), TrueCourseText);
 }
 
 void CreateWaypointForm::DistText_LostFocus() {
-    program_.Complain(NumberComplaint(DistText.Text(), NumbersOnly), DistText);
+    dialogue_.Complain(NumberComplaint(DistText.Text(), NumbersOnly), DistText);
 }
 
 void CreateWaypointForm::TransferCommand_Click() {
     if (!InputIsComplete()) return;
-    const SharedState& state = program_.state;
-    const RhumbPoint start = RhumbPointAt(state.StartLat, state.StartLong);
-    const double distance = StrictNumber(DistText.Text()) * RadiansPerNauticalMile;
-    const double course = StrictNumber(TrueCourseText.Text()) * RadiansPerDegree;
-    if (!RhumbLineStep(program_, start.latitude, start.longitude, distance, course,
-                       StepDelivery::EditorBoxes)) {
-        program_.Ask({.prompt = std::string(ReachesPole)});
+    const std::optional<RhumbPoint> derived = Derived();
+    if (!derived) {
+        dialogue_.Ask({.prompt = std::string(ReachesPole)});
         return;
     }
-    program_.modifyProcedure.Get()->FixNameText.SetText(Upper(WaypointIDText.Text()));
-    program_.createWaypointForm.Unload();
+    OnTransfer(Upper(WaypointIDText.Text()), PositionTextsOf(*derived));
+    Unload();
+}
+
+std::optional<RhumbPoint> CreateWaypointForm::Derived() const {
+    const bool complete = variables_.StartPointSelected != False && IsNumberText(DistText.Text()) &&
+                          IsNumberText(TrueCourseText.Text());
+    if (!complete) return std::nullopt;
+    return RhumbDestination(RhumbPointAt(variables_.StartLat, variables_.StartLong),
+                            StrictNumber(DistText.Text()) * RadiansPerNauticalMile,
+                            StrictNumber(TrueCourseText.Text()) * RadiansPerDegree);
 }
 
 void CreateWaypointForm::Command1_Click() {
-    program_.modifyProcedure.Get()->ClearDataCommand_Click();
-    program_.createWaypointForm.Unload();
+    OnGoBack();
+    Unload();
 }
 
 bool CreateWaypointForm::InputIsComplete() {
     const std::pair<TextBox*, std::string_view> boxes[] = {
         {&TrueCourseText, NoCourse}, {&DistText, NoDistance}, {&WaypointIDText, NoWaypointID}};
     for (const auto& [box, complaint] : boxes) {
-        if (box->Text().empty()) return !program_.Complain(complaint, *box);
+        if (box->Text().empty()) return !dialogue_.Complain(complaint, *box);
     }
-    if (program_.state.StartPointSelected != False) return true;
-    program_.Ask({.prompt = std::string(NoStartPoint)});
+    if (variables_.StartPointSelected != False) return true;
+    dialogue_.Ask({.prompt = std::string(NoStartPoint)});
     return false;
 }
 

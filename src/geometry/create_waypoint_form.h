@@ -1,17 +1,22 @@
 #pragma once
 
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "geometry/position.h"
+#include "geometry/rhumb_line.h"
+#include "geometry/tool_variables.h"
+#include "toolkit/dialogue.h"
 #include "toolkit/form.h"
 #include "toolkit/simple_controls.h"
 
 namespace tarvex {
 
-class Program;
-
-// Derives a waypoint from a known point, a true course and a distance. The result goes into the editor's
-// boxes; the editor's add button makes the row.
+// Derives a waypoint from a known point, a true course and a distance, for whoever opened it.
 class CreateWaypointForm : public Form {
   public:
-    explicit CreateWaypointForm(Program& program);
+    CreateWaypointForm(FormHost& host, Dialogue& dialogue, StartPointVariables& variables);
 
     Frame Frame1{*this, "Frame1", "Starting Point"};
     Button NavaidCommand{*this, "NavaidCommand", "", 2};
@@ -33,19 +38,33 @@ class CreateWaypointForm : public Form {
     void Form_Load() override;
     Button* WayOut() override { return &Command1; }
 
-    void NavaidCommand_Click();
-    void FixCommand_Click();
-    void RunwayCommand_Click();
+    void NavaidCommand_Click() { OnPickStart("CN"); }
+    void FixCommand_Click() { OnPickStart("CF"); }
+    void RunwayCommand_Click() { OnPickStart("CAP"); }
     void TrueCourseText_LostFocus();
     void DistText_LostFocus();
     void TransferCommand_Click();
     void Command1_Click();
 
+    // A start point is wanted by a search of this kind; TakeStart gets it, once. `picked` is what the screen
+    // says of it.
+    std::function<void(std::string_view searchKind)> OnPickStart;
+    void TakeStart(const Position& start, std::string_view picked);
+
+    // The waypoint is derived, and the other way out is taken.
+    std::function<void(const std::string& name, const PositionTexts& position)> OnTransfer;
+    std::function<void()> OnGoBack;
+
+    // The point that start, course and distance lead to; nothing while one of them is missing or no number,
+    // or where a pole is in the way.
+    std::optional<RhumbPoint> Derived() const;
+
   private:
     // Shows its message and moves the focus when it fails.
     bool InputIsComplete();
 
-    Program& program_;
+    Dialogue& dialogue_;
+    StartPointVariables& variables_;
 };
 
 }  // namespace tarvex

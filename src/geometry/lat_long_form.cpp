@@ -3,9 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "geometry/coordinate_rules.h"
 #include "geometry/text_rules.h"
-#include "startup/program.h"
 
 namespace tarvex {
 
@@ -17,38 +15,19 @@ constexpr std::string_view NoLongDegrees =
     "You must type in the Longitude degrees.\r\n                   Please correct.";
 constexpr std::string_view Negative = "Enter positive numbers and select the hemisphere please.";
 
-// Unlike the minutes of longitude, those of latitude are not left empty, and must be a number above all.
-std::string_view LatMinutesComplaint(std::string_view degrees, std::string_view minutes) {
-    if (!IsNumberText(minutes)) return EnterOnlyNumbers;
-    return MinutesComplaint(LatitudeAxis, degrees, minutes);
+std::string_view OrNegative(std::string_view complaint, const TextBox& box) {
+    return complaint.empty() && LeadingNumber(box.Text()) < 0 ? Negative : complaint;
 }
 
-// What keeps a pair of boxes from being taken; empty minutes count as 0.
-struct PairComplaint {
-    std::string_view degrees;
-    std::string_view minutes;
-};
-
-PairComplaint ComplaintOf(const CoordinateAxis& axis, std::string_view degrees, std::string_view minutes,
-                          std::string_view whenEmpty) {
-    const auto orNegative = [](std::string_view complaint, std::string_view text) {
-        return complaint.empty() && LeadingNumber(text) < 0 ? Negative : complaint;
-    };
-    if (degrees.empty()) return {whenEmpty, {}};
-    return {orNegative(DegreesComplaint(axis, degrees), degrees),
-            orNegative(MinutesComplaint(axis, degrees, minutes), minutes)};
-}
-
-std::string DecimalDegrees(const TextBox& degrees, const TextBox& minutes, bool negative) {
-    const std::string decimal =
-        NumberText(LeadingNumber(degrees.Text()) + LeadingNumber(minutes.Text()) / 60);
-    return negative ? "-" + decimal : decimal;
+std::string DecimalText(const CoordinateGroup& group) {
+    const std::string decimal = NumberText(group.Magnitude());
+    return group.negative.Value() ? "-" + decimal : decimal;
 }
 
 }  // namespace
 
-LatLongForm::LatLongForm(Program& program)
-    : Form(program.host, "LatLongForm", "Lat/Long Centerpoint"), program_(program) {
+LatLongForm::LatLongForm(FormHost& host, Dialogue& dialogue, ArcVariables& variables)
+    : Form(host, "LatLongForm", "Lat/Long Centerpoint"), dialogue_(dialogue), variables_(variables) {
     NorthOption.SelectAtFirst();
     EastOption.SelectAtFirst();
     DLatCenterText.OnLostFocus = [this] { DLatCenterText_LostFocus(); };
@@ -59,50 +38,24 @@ LatLongForm::LatLongForm(Program& program)
     OopsCommand.OnClick = [this] { OopsCommand_Click(); };
 }
 
-void LatLongForm::DLatCenterText_LostFocus() {
-    program_.Complain(DegreesComplaint(LatitudeAxis, DLatCenterText.Text()), DLatCenterText);
-}
-
 void LatLongForm::MLatCenterText_LostFocus() {
-    program_.Complain(LatMinutesComplaint(DLatCenterText.Text(), MLatCenterText.Text()), MLatCenterText);
-}
-
-void LatLongForm::DLongCenterText_LostFocus() {
-    program_.Complain(DegreesComplaint(LongitudeAxis, DLongCenterText.Text()), DLongCenterText);
-}
-
-void LatLongForm::MLongCenterText_LostFocus() {
-    program_.Complain(MinutesComplaint(LongitudeAxis, DLongCenterText.Text(), MLongCenterText.Text()),
-                      MLongCenterText);
+    // Unlike the minutes of longitude, those of latitude are not left empty, and must be a number above all.
+    const bool isNumber = IsNumberText(MLatCenterText.Text());
+    dialogue_.Complain(isNumber ? Latitude.MinutesComplaint() : EnterOnlyNumbers, MLatCenterText);
 }
 
 void LatLongForm::DoneCommand_Click() {
-    AddARC* designer = program_.addARC.Get();
-    if (designer != nullptr) {
-        if (!PositionIsComplete()) return;
-        program_.state.ArcCenterLat = DecimalDegrees(DLatCenterText, MLatCenterText, SouthOption.Value());
-        program_.state.ArcCenterLong = DecimalDegrees(DLongCenterText, MLongCenterText, WestOption.Value());
-        designer->ArcLabelText.SetText("ARC");
-        designer->Label4.SetVisible(true);
-        designer->ArcLabelText.SetVisible(true);
-        designer->Frame2.SetVisible(false);
-    }
-    program_.latLongForm.Unload();
+    if (!IsComplete(Latitude, NoLatDegrees) || !IsComplete(Longitude, NoLongDegrees)) return;
+    variables_.ArcCenterLat = DecimalText(Latitude);
+    variables_.ArcCenterLong = DecimalText(Longitude);
+    if (OnDone) OnDone();
+    Unload();
 }
 
-void LatLongForm::OopsCommand_Click() {
-    program_.latLongForm.Unload();
-}
-
-bool LatLongForm::PositionIsComplete() {
-    const PairComplaint lat =
-        ComplaintOf(LatitudeAxis, DLatCenterText.Text(), MLatCenterText.Text(), NoLatDegrees);
-    const PairComplaint lon =
-        ComplaintOf(LongitudeAxis, DLongCenterText.Text(), MLongCenterText.Text(), NoLongDegrees);
-    return !program_.Complain(lat.degrees, DLatCenterText) &&
-           !program_.Complain(lat.minutes, MLatCenterText) &&
-           !program_.Complain(lon.degrees, DLongCenterText) &&
-           !program_.Complain(lon.minutes, MLongCenterText);
+bool LatLongForm::IsComplete(const CoordinateGroup& group, std::string_view whenEmpty) {
+    if (group.degrees.Text().empty()) return !dialogue_.Complain(whenEmpty, group.degrees);
+    return !dialogue_.Complain(OrNegative(group.DegreesComplaint(), group.degrees), group.degrees) &&
+           !dialogue_.Complain(OrNegative(group.MinutesComplaint(), group.minutes), group.minutes);
 }
 
 }  // namespace tarvex

@@ -1,17 +1,19 @@
 #pragma once
 
+#include <functional>
+
+#include "geometry/coordinate_group.h"
+#include "geometry/tool_variables.h"
+#include "toolkit/dialogue.h"
 #include "toolkit/form.h"
 #include "toolkit/simple_controls.h"
 
 namespace tarvex {
 
-class Program;
-
-// Takes the centre of an arc by hand, for the ARC designer. Degrees and minutes are magnitudes; the options
-// carry the signs.
+// Takes the centre of an arc by hand, for whoever opened it.
 class LatLongForm : public Form {
   public:
-    explicit LatLongForm(Program& program);
+    LatLongForm(FormHost& host, Dialogue& dialogue, ArcVariables& variables);
 
     Label Label1{*this, "Label1", "D       M  Latitude"};
     TextBox DLatCenterText{*this, "DLatCenterText", 2, 0};
@@ -30,18 +32,26 @@ class LatLongForm : public Form {
 
     Button* WayOut() override { return &OopsCommand; }
 
-    void DLatCenterText_LostFocus();
+    const CoordinateGroup Latitude{LatitudeAxis, DLatCenterText, MLatCenterText, NorthOption, SouthOption};
+    const CoordinateGroup Longitude{LongitudeAxis, DLongCenterText, MLongCenterText, EastOption, WestOption};
+
+    void DLatCenterText_LostFocus() { dialogue_.Complain(Latitude.DegreesComplaint(), DLatCenterText); }
     void MLatCenterText_LostFocus();
-    void DLongCenterText_LostFocus();
-    void MLongCenterText_LostFocus();
+    void DLongCenterText_LostFocus() { dialogue_.Complain(Longitude.DegreesComplaint(), DLongCenterText); }
+    void MLongCenterText_LostFocus() { dialogue_.Complain(Longitude.MinutesComplaint(), MLongCenterText); }
     void DoneCommand_Click();
-    void OopsCommand_Click();
+    void OopsCommand_Click() { Unload(); }
+
+    // The shared variables hold the centre.
+    std::function<void()> OnDone;
 
   private:
-    // Whether all boxes make up a position; shows the first complaint and moves the focus there if not.
-    bool PositionIsComplete();
+    // Whether the boxes make up a coordinate, empty minutes counting as 0; shows the first complaint and
+    // moves the focus there if not.
+    bool IsComplete(const CoordinateGroup& group, std::string_view whenEmpty);
 
-    Program& program_;
+    Dialogue& dialogue_;
+    ArcVariables& variables_;
 };
 
 }  // namespace tarvex

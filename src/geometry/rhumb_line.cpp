@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "geometry/position.h"
 #include "geometry/text_rules.h"
 
 namespace tarvex {
@@ -26,16 +27,6 @@ double LongitudeChange(double from, double to) {
     if (change > 180) return (to - 180) - (from + 180);
     if (change <= -180) return (to + 180) - (from - 180);
     return change;
-}
-
-struct DegreesAndMinutes {
-    std::string degrees;
-    std::string minutes;
-};
-
-DegreesAndMinutes Split(double magnitude) {
-    const std::string degrees = WholeDegreesText(magnitude);
-    return {degrees, PatternFormat((magnitude - LeadingNumber(degrees)) * 60, TwoDigitPattern)};
 }
 
 }  // namespace
@@ -81,20 +72,16 @@ RhumbLeg RhumbLegBetween(const Position& from, const Position& to) {
 PositionTexts PositionTextsOf(const RhumbPoint& point) {
     const double latDeg = point.latitude * DegreesPerRadian;
     const double lonDeg = point.longitude * DegreesPerRadian;
-    const DegreesAndMinutes lat = Split(std::fabs(latDeg));
-    const DegreesAndMinutes lon = Split(std::fabs(lonDeg));
-    const bool shownAsZero = lat.degrees == "0" && lat.minutes == ".";
-
     PositionTexts texts;
     texts.latDecimal = PatternFormat(latDeg, TwoDigitPattern);
-    texts.latDegrees = lat.degrees;
-    texts.latMinutes = lat.minutes;
-    texts.south = latDeg < 0 && !shownAsZero;
+    texts.latDegrees = WholeDegreesText(std::fabs(latDeg));
+    texts.latMinutes = PatternFormat(SplitDegrees(std::fabs(latDeg)).minutes, TwoDigitPattern);
+    texts.south = latDeg < 0 && !(texts.latDegrees == "0" && texts.latMinutes == ".");
     texts.west = lonDeg >= 0;
     texts.longDecimal =
         PatternFormat(std::fabs(lonDeg), texts.west ? NegatedThreeDigitPattern : ThreeDigitPattern);
-    texts.longDegrees = lon.degrees;
-    texts.longMinutes = lon.minutes;
+    texts.longDegrees = WholeDegreesText(std::fabs(lonDeg));
+    texts.longMinutes = PatternFormat(SplitDegrees(std::fabs(lonDeg)).minutes, TwoDigitPattern);
     return texts;
 }
 

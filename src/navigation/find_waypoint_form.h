@@ -1,23 +1,23 @@
 #pragma once
 
-#include <cstdint>
-#include <string>
+#include <functional>
+#include <optional>
 
-#include "geometry/fixed_field.h"
+#include "navigation/search_hit.h"
 #include "navigation/search_kinds.h"
+#include "toolkit/dialogue.h"
 #include "toolkit/form.h"
 #include "toolkit/list_box.h"
 #include "toolkit/simple_controls.h"
 
 namespace tarvex {
 
-class Program;
-
-// The search over one navigation table, for the caller that SearchKind names as the screen opens. A search
-// whose caller has closed transfers nothing.
+// The search over one navigation table, of the kind that SearchKind names as the screen opens. What was found
+// goes to whoever opened it.
 class FindWaypointForm : public Form {
   public:
-    explicit FindWaypointForm(Program& program);
+    FindWaypointForm(FormHost& host, Dialogue& dialogue, const NavigationTables& tables,
+                     SearchVariables& variables);
 
     TextBox SearchText{*this, "SearchText", 5, 0};
     Button SearchCommand{*this, "SearchCommand", "Start Search", 1};
@@ -43,42 +43,20 @@ class FindWaypointForm : public Form {
     void SearchCommand_Click();
     void WaypointListBox_Click();
     void AddWaypoint_Click();
-    void GoBackCommand_Click();
+    void GoBackCommand_Click() { Unload(); }
 
-    // Whose search this is.
-    SearchCaller Caller() const { return kind_->caller; }
+    // Takes the hit that is transferred.
+    std::function<void(const SearchHit&)> OnTransfer;
 
   private:
-    static constexpr std::int32_t NoEntry = -1;
-
     void HidePosition();
-    void ShowPosition(double latitude, double longitude);
-    void ShowFrequency();
-    bool CallerIsOpen() const;
-    void TransferName();
-    void TransferToArcDesigner();
-    void TransferStartPoint();
-    void FillEditorPosition();
-    void CloseStartPhase();
+    void ShowHit();
 
-    Program& program_;
+    Dialogue& dialogue_;
+    const NavigationTables& tables_;
+    SearchVariables& variables_;
     const SearchKindEntry* kind_ = nullptr;  // from the load on
-
-    // The result of the last click.
-    std::int32_t SelectedRow = NoEntry;  // table index
-    std::string LatDegreesText;
-    std::string LongDegreesText;
-    FixedField<9> LatMinutesText;
-    FixedField<9> LongMinutesText;
-    std::string LatHemisphere;   // "N" or "S"
-    std::string LongHemisphere;  // "E" or "W"
+    std::optional<SearchHit> hit_;           // of the last click
 };
-
-// Opens the search anew for the caller that `kind`, a SearchKind, names, instead of one that may be open. The
-// editor's boxes are emptied first if the result is to go there.
-void OpenSearch(Program& program, std::string_view kind);
-
-// Closes the search if it is open for this caller.
-void CloseSearchOf(Program& program, SearchCaller caller);
 
 }  // namespace tarvex

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "geometry/position.h"
 #include "geometry/text_rules.h"
 
 namespace tarvex {
@@ -10,7 +11,7 @@ namespace {
 
 double DecimalDegrees(std::string_view degrees, std::string_view minutes) {
     const double number = LeadingNumber(degrees);
-    const double magnitude = std::abs(number) + LeadingNumber(minutes) / 60;
+    const double magnitude = JoinDegrees({std::abs(number), LeadingNumber(minutes)});
     const bool negative = number < 0 || (number == 0 && LeftTrim(degrees).starts_with('-'));
     return negative ? -magnitude : magnitude;
 }

@@ -1,15 +1,15 @@
 #include "procedure/pick_file.h"
 
-#include "startup/program.h"
+#include <utility>
 
 namespace tarvex {
 
-PickFile::PickFile(Program& program)
-    : Form(program.host, "PickFile", "Procedure Select"),
-      FileList(*this, "FileList", 0, program.platform.files),
-      program_(program),
-      folder_(program.state.ProcedureFolder),
-      mode_(program.state.ProcedureMode) {
+PickFile::PickFile(FormHost& host, FileSystem& files, ProcedureVariables& variables, Opener opener)
+    : Form(host, "PickFile", "Procedure Select"),
+      FileList(*this, "FileList", 0, files),
+      variables_(variables),
+      listed_(variables),
+      opener_(std::move(opener)) {
     FileList.OnClick = [this] { FileList_Click(); };
     PickICAO.OnChange = [this] { PickICAO_Change(); };
     DoneCommand.OnClick = [this] { DoneCommand_Click(); };
@@ -17,10 +17,10 @@ PickFile::PickFile(Program& program)
 
 void PickFile::Form_Load() {
     try {
-        FileList.SetPath(program_.state.ProcedureFolder);
-        program_.state.ProcedureFileName.clear();
+        FileList.SetPath(variables_.ProcedureFolder);
+        variables_.ProcedureFileName.clear();
     } catch (const Failure& failure) {
-        program_.RecoverProcedureFolder(failure);
+        opener_.failed(failure);
     }
 }
 
@@ -34,19 +34,9 @@ void PickFile::PickOnlyFile() {
 }
 
 void PickFile::FileList_Click() {
-    SharedState& state = program_.state;
-    state.ProcedureFileName = FileList.FileName();
-    // The menu stands beside the picker: it may have fixed another kind of procedure since the list was read.
-    if (!program_.modifyProcedure.IsLoaded()) {
-        state.ProcedureFolder = folder_;
-        state.ProcedureMode = mode_;
-    }
-    program_.pickFile.Hide();
-    program_.modifyProcedure.Show();
-}
-
-void PickFile::DoneCommand_Click() {
-    program_.pickFile.Unload();
+    variables_.ProcedureFileName = FileList.FileName();
+    Hide();
+    opener_.picked(listed_);
 }
 
 }  // namespace tarvex

@@ -1,19 +1,26 @@
 #pragma once
 
-#include <string>
+#include <functional>
 
+#include "procedure/procedure_variables.h"
 #include "toolkit/drive_lists.h"
+#include "toolkit/failure.h"
 #include "toolkit/form.h"
 #include "toolkit/simple_controls.h"
 
 namespace tarvex {
 
-class Program;
-
 // The screen on which the user picks the stored procedure to modify.
 class PickFile : public Form {
   public:
-    explicit PickFile(Program& program);
+    // Whoever opens it: takes the choice, and a failure of its load, which leaves the list empty.
+    struct Opener {
+        // ProcedureFileName holds the name; folder and mode are those that the list was read with.
+        std::function<void(const ProcedureVariables& listed)> picked;
+        std::function<void(const Failure&)> failed;
+    };
+
+    PickFile(FormHost& host, FileSystem& files, ProcedureVariables& variables, Opener opener);
 
     tarvex::FileList FileList;  // tab order 0
     TextBox PickICAO{*this, "PickICAO", 4, 1};
@@ -28,15 +35,15 @@ class PickFile : public Form {
     TextBox* BoxOfLetters() override { return &PickICAO; }
     void PickICAO_Change();
     void FileList_Click();
-    void DoneCommand_Click();
+    void DoneCommand_Click() { Unload(); }
 
   private:
     // Picks the file that is left in the list, if it is the only one.
     void PickOnlyFile();
 
-    Program& program_;
-    std::string folder_;  // that the list shows
-    std::string mode_;    // in which its procedures open
+    ProcedureVariables& variables_;
+    const ProcedureVariables listed_;  // as the list was read
+    Opener opener_;
 };
 
 }  // namespace tarvex

@@ -142,26 +142,27 @@ void ConvertRows(std::string_view text, const std::string& path, const Navigatio
 
 }  // namespace
 
-std::int32_t ReadProcedureFile(FileSystem& files, SharedState& state) {
-    const std::string path = state.ProcedureFolder + state.ProcedureFileName;
+std::int32_t ReadProcedureFile(FileSystem& files, const ProcedureVariables& procedure,
+                               std::string_view version, const NavigationTables& navigation,
+                               ProcedureRows& rows) {
+    const std::string path = procedure.ProcedureFolder + procedure.ProcedureFileName;
     const FileText file = files.Read(path);
     FirstPass pass = ReadRows(file.View(), path);
 
-    const bool convertNeeded = state.ProcedureMode == "I" && pass.convertNeeded;
+    const bool convertNeeded = procedure.ProcedureMode == "I" && pass.convertNeeded;
     if (convertNeeded && pass.rewriteNeeded) {
         // The conversion reads the mended file.
-        const std::string mended = RewrittenProcedure(path, pass.rows, state.ProgramVersion);
-        ConvertRows(mended, path, state.Navigation, pass.rows);
+        const std::string mended = RewrittenProcedure(path, pass.rows, version);
+        ConvertRows(mended, path, navigation, pass.rows);
     } else if (convertNeeded) {
-        ConvertRows(file.View(), path, state.Navigation, pass.rows);
+        ConvertRows(file.View(), path, navigation, pass.rows);
     }
     if (convertNeeded || pass.rewriteNeeded) {
-        WriteProcedureFile(files, path, pass.rows, state.ProgramVersion, file.View());
+        WriteProcedureFile(files, path, pass.rows, version, file.View());
     }
 
-    std::move(pass.rows.begin(), pass.rows.end(), state.WaypointTable.begin());
-    state.WaypointCount = static_cast<std::int32_t>(pass.rows.size());
-    return state.WaypointCount;
+    rows.Assign(pass.rows);
+    return rows.Count();
 }
 
 }  // namespace tarvex

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
-#include "startup/shared_state.h"
+#include "navigation/navigation_tables.h"
+#include "procedure/procedure_rows.h"
+#include "procedure/procedure_variables.h"
 #include "toolkit/failure.h"
 #include "toolkit/file_system.h"
 
@@ -15,8 +18,8 @@ class ProcedureDataError : public Failure {
     using Failure::Failure;
 };
 
-// Fills WaypointTable and WaypointCount from the file in ProcedureFolder named ProcedureFileName, all or
-// nothing, and returns the count. A file whose latitudes have surplus characters is mended, and an approach
+// Fills the rows from the file in ProcedureFolder named ProcedureFileName, all or nothing, and returns their
+// count. A file whose latitudes have surplus characters is mended, and an approach
 // of an older version, in mode "I", gets its runway waypoints converted; either is written back before the
 // table is filled.
 //
@@ -24,6 +27,8 @@ class ProcedureDataError : public Failure {
 // (5) for a coordinate too short to be mended; Overflow (6) for more waypoints than the table holds or a
 // coordinate out of range; else the failures of the file system and of WriteProcedureFile. On a failure the
 // table and, as far as the file system lets it, the file are as they were.
-std::int32_t ReadProcedureFile(FileSystem& files, SharedState& state);
+std::int32_t ReadProcedureFile(FileSystem& files, const ProcedureVariables& procedure,
+                               std::string_view version, const NavigationTables& navigation,
+                               ProcedureRows& rows);
 
 }  // namespace tarvex

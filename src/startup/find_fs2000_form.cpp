@@ -1,7 +1,6 @@
 #include "startup/find_fs2000_form.h"
 
 #include "geometry/text_rules.h"
-#include "startup/program.h"
 #include "startup/settings_file.h"
 #include "startup/simulator_folder.h"
 #include "startup/startup_messages.h"
@@ -14,12 +13,12 @@ constexpr std::ptrdiff_t DriveLength = 3;  // "C:\"
 
 }  // namespace
 
-FindFS2000Form::FindFS2000Form(Program& program)
-    : Form(program.host, "FindFS2000Form", ""),
-      Drive1(*this, "Drive1", 0, program.platform.files),
-      Dir1(*this, "Dir1", 1, program.platform.files),
-      program_(program),
-      folderBefore_(program.state.SimulatorPath) {
+FindFS2000Form::FindFS2000Form(const Workplace& workplace)
+    : Form(workplace.host, "FindFS2000Form", ""),
+      Drive1(*this, "Drive1", 0, workplace.platform.files),
+      Dir1(*this, "Dir1", 1, workplace.platform.files),
+      workplace_(workplace),
+      folderBefore_(workplace.state.SimulatorPath) {
     for (Control* control : Controls()) {
         if (control != &Frame1) control->PutInto(Frame1);
     }
@@ -30,8 +29,8 @@ FindFS2000Form::FindFS2000Form(Program& program)
 }
 
 void FindFS2000Form::Form_Load() {
-    SetSimulatorPath(RegisteredSimulatorFolder(program_.platform.registry));
-    const std::string folder = program_.state.SimulatorPath;
+    SetSimulatorPath(RegisteredSimulatorFolder(workplace_.platform.registry));
+    const std::string folder = workplace_.state.SimulatorPath;
     if (folder.empty()) return;
     try {
         Drive1.SetDrive(Left(folder, DriveLength));
@@ -42,11 +41,11 @@ void FindFS2000Form::Form_Load() {
 
 void FindFS2000Form::Form_Unload() {
     if (done_) return;
-    program_.state.SimulatorPath = folderBefore_;
-    if (program_.host.Visible().size() <= 1) {
-        program_.initialLoad.Unload();
-    } else if (!program_.modifyProcedure.IsLoaded()) {
-        program_.initialLoad.Show();
+    workplace_.state.SimulatorPath = folderBefore_;
+    if (workplace_.host.Visible().size() <= 1) {
+        workplace_.initialLoad.Unload();
+    } else if (!workplace_.modifyProcedure.IsLoaded()) {
+        workplace_.initialLoad.Show();
     }
 }
 
@@ -64,17 +63,17 @@ void FindFS2000Form::Dir1_Click() {
 }
 
 void FindFS2000Form::FindDoneCommand_Click() {
-    SharedState& state = program_.state;
-    state.SettingsPath = SettingsPathIn(program_.platform.programFolder);
+    SharedState& state = workplace_.state;
+    state.SettingsPath = SettingsPathIn(workplace_.platform.programFolder);
     try {
-        WriteSettingsFile(program_.platform.files, state.SettingsPath,
+        WriteSettingsFile(workplace_.platform.files, state.SettingsPath,
                           {.SimulatorPath = Upper(state.SimulatorPath),
                            .DefaultLatHemisphere = "N",
                            .DefaultLongHemisphere = "W",
                            .MagVarSide = {}},
                           ShortSettingsLines);
     } catch (const Failure& failure) {
-        program_.Ask(FolderNotKept(state.SettingsPath, failure.Reason()));
+        workplace_.dialogue.Ask(FolderNotKept(state.SettingsPath, failure.Reason()));
         return;
     }
     state.DefaultLatHemisphere = "N";
@@ -82,24 +81,24 @@ void FindFS2000Form::FindDoneCommand_Click() {
     state.MagVarSide = "W";
     LoadTables();
     done_ = true;
-    program_.findFS2000Form.Unload();
-    program_.initialLoad.Show();
+    Unload();
+    workplace_.initialLoad.Show();
 }
 
 void FindFS2000Form::LoadTables() {
     try {
-        program_.FillNavigationTables();
+        workplace_.FillNavigationTables();
     } catch (const Failure& failure) {
-        program_.Ask(NavigationDataNotRead(program_.state.SimulatorPath, failure.Reason()));
+        workplace_.dialogue.Ask(NavigationDataNotRead(workplace_.state.SimulatorPath, failure.Reason()));
     }
 }
 
 void FindFS2000Form::SetSimulatorPath(const std::string& folder) {
-    program_.state.SimulatorPath = folder;
+    workplace_.state.SimulatorPath = folder;
     Dir1.ShowChosen(folder);
     if (folder.empty()) {
         DataHintLabel.SetCaption(NoFolderHint());
-    } else if (HasNavigationData(program_.platform.files, folder)) {
+    } else if (HasNavigationData(workplace_.platform.files, folder)) {
         DataHintLabel.SetCaption(DataFoundHint(folder));
     } else {
         DataHintLabel.SetCaption(NoDataHint(folder));

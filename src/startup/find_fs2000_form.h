@@ -2,18 +2,17 @@
 
 #include <string>
 
+#include "startup/workplace.h"
 #include "toolkit/drive_lists.h"
 #include "toolkit/form.h"
 #include "toolkit/simple_controls.h"
 
 namespace tarvex {
 
-class Program;
-
 // The screen that asks for the simulator folder.
 class FindFS2000Form : public Form {
   public:
-    explicit FindFS2000Form(Program& program);
+    explicit FindFS2000Form(const Workplace& workplace);
 
     Frame Frame1{*this, "Frame1", "Find Flight Sim 2000"};
     Label Label1{*this, "Label1", "I could not find your Flight Simulator 2000. "};
@@ -40,7 +39,7 @@ class FindFS2000Form : public Form {
     void SetSimulatorPath(const std::string& folder);
     void LoadTables();
 
-    Program& program_;
+    const Workplace& workplace_;
     const std::string folderBefore_;
     bool done_ = false;
 };

@@ -2,7 +2,6 @@
 
 #include "geometry/text_rules.h"
 #include "procedure/procedure_mode.h"
-#include "startup/program.h"
 #include "startup/simulator_folder.h"
 #include "startup/startup_messages.h"
 
@@ -37,7 +36,11 @@ std::string_view FolderOf(std::string_view mode) {
 
 }  // namespace
 
-InitialLoad::InitialLoad(Program& program) : Form(program.host, "InitialLoad", "Tarvex"), program_(program) {
+InitialLoad::InitialLoad(const Workplace& workplace, std::function<void(bool)> letChooseRunway)
+    : Form(workplace.host, "InitialLoad", "Tarvex"),
+      workplace_(workplace),
+      state_(workplace.state),
+      letChooseRunway_(std::move(letChooseRunway)) {
     CreateDP.OnClick = [this] { CreateDP_Click(); };
     CreateSTAR.OnClick = [this] { CreateSTAR_Click(); };
     CreateIAP.OnClick = [this] { CreateIAP_Click(); };
@@ -48,25 +51,30 @@ InitialLoad::InitialLoad(Program& program) : Form(program.host, "InitialLoad", "
 }
 
 void InitialLoad::Form_Load() {
-    program_.state.ProgramVersion = Version;
-    program_.state.SettingsPath = SettingsPathIn(program_.platform.programFolder);
+    state_.ProgramVersion = Version;
+    state_.SettingsPath = SettingsPathIn(workplace_.platform.programFolder);
     bool settled = false;
     try {
         settled = ReadSettings();
     } catch (const Failure& failure) {
-        program_.Ask(failure.Number() == PathNotFound ? DataNotFound() : UnexpectedError());
-        program_.Stop(1, failure.Reason());
+        workplace_.dialogue.Ask(failure.Number() == PathNotFound ? DataNotFound() : UnexpectedError());
+        StopProgram(1, failure.Reason());
     }
-    if (settled) program_.LoadNavigationData();
+    if (!settled) return;
+    try {
+        workplace_.FillNavigationTables();
+    } catch (const Failure& failure) {
+        StopProgram(1, failure.Reason());
+    }
 }
 
 void InitialLoad::Form_Unload() {
-    program_.Stop(0);
+    StopProgram(0);
 }
 
 bool InitialLoad::ReadSettings() {
     try {
-        Take(ReadSettingsFile(program_.platform.files, program_.state.SettingsPath));
+        static_cast<Settings&>(state_) = ReadSettingsFile(workplace_.platform.files, state_.SettingsPath);
         return true;
     } catch (const Failure& failure) {
         if (failure.Number() == FileNotFound) return RecoverMissingSettings();
@@ -78,7 +86,7 @@ bool InitialLoad::ReadSettings() {
 bool InitialLoad::RecoverShortSettings() {
     Settings settings;
     try {
-        settings = ReadSettingsFile(program_.platform.files, program_.state.SettingsPath, ShortSettingsLines);
+        settings = ReadSettingsFile(workplace_.platform.files, state_.SettingsPath, ShortSettingsLines);
     } catch (const Failure& failure) {
         // Too short even for this recovery: no better than none.
         if (failure.Number() == PastEndOfFile) return RecoverMissingSettings();
@@ -90,13 +98,12 @@ bool InitialLoad::RecoverShortSettings() {
 }
 
 bool InitialLoad::RecoverMissingSettings() {
-    SharedState& state = program_.state;
-    state.SimulatorPath = RegisteredSimulatorFolder(program_.platform.registry);
-    if (state.SimulatorPath.empty()) {
-        program_.AskForSimulatorFolder();
+    state_.SimulatorPath = RegisteredSimulatorFolder(workplace_.platform.registry);
+    if (state_.SimulatorPath.empty()) {
+        workplace_.AskForSimulatorFolder();
         return false;
     }
-    RewriteSettings({.SimulatorPath = Upper(state.SimulatorPath),
+    RewriteSettings({.SimulatorPath = Upper(state_.SimulatorPath),
                      .DefaultLatHemisphere = "N",
                      .DefaultLongHemisphere = "W",
                      .MagVarSide = "W"});
@@ -105,24 +112,16 @@ bool InitialLoad::RecoverMissingSettings() {
 
 // Writes the settings and reads them back; where they can't be written they count as they are.
 void InitialLoad::RewriteSettings(const Settings& settings) {
-    FileSystem& files = program_.platform.files;
-    const std::string& path = program_.state.SettingsPath;
+    FileSystem& files = workplace_.platform.files;
+    Settings& kept = state_;
     try {
-        WriteSettingsFile(files, path, settings);
+        WriteSettingsFile(files, state_.SettingsPath, settings);
     } catch (const Failure& failure) {
-        Take(settings);
-        program_.Ask(SettingsNotWritten(path, failure.Reason()));
+        kept = settings;
+        workplace_.dialogue.Ask(SettingsNotWritten(state_.SettingsPath, failure.Reason()));
         return;
     }
-    Take(ReadSettingsFile(files, path));
-}
-
-void InitialLoad::Take(const Settings& settings) {
-    SharedState& state = program_.state;
-    state.SimulatorPath = settings.SimulatorPath;
-    state.DefaultLatHemisphere = settings.DefaultLatHemisphere;
-    state.DefaultLongHemisphere = settings.DefaultLongHemisphere;
-    state.MagVarSide = settings.MagVarSide;
+    kept = ReadSettingsFile(files, state_.SettingsPath);
 }
 
 void InitialLoad::CreateDP_Click() {
@@ -149,45 +148,37 @@ void InitialLoad::ModifyIAP_Click() {
     Modify(ModifyIAPAction);
 }
 
-void InitialLoad::ExitCommand_Click() {
-    program_.initialLoad.Unload();
-}
-
 void InitialLoad::Create(const MenuAction& action) {
     if (ReturnToEditor()) return;
     SetProcedure(action);
-    program_.modifyProcedure.Show();
-    ModifyProcedure* editor = program_.modifyProcedure.Get();
-    if (editor == nullptr) return;  // it ended itself while it loaded
-    if (action.runwaySpecific) editor->RwySpecificCheck.SetEnabled(true);
-    editor->RwySpecificCheck.SetValue(0);
-    if (!action.runwaySpecific) editor->RwySpecificCheck.SetEnabled(false);
+    workplace_.modifyProcedure.Show();
+    // The editor may have ended itself while it loaded.
+    if (workplace_.modifyProcedure.IsLoaded()) letChooseRunway_(action.runwaySpecific);
 }
 
 void InitialLoad::Modify(const MenuAction& action) {
     if (ReturnToEditor()) return;
     try {
-        program_.pickFile.Unload();
+        workplace_.pickFile.Unload();
         SetProcedure(action);
-        program_.pickFile.Show();
+        workplace_.pickFile.Show();
     } catch (const Failure& failure) {
-        program_.RecoverProcedureFolder(failure);
+        workplace_.RecoverProcedureFolder(failure);
     }
 }
 
 bool InitialLoad::ReturnToEditor() {
-    if (!program_.modifyProcedure.IsLoaded()) return false;
-    SharedState& state = program_.state;
-    state.ProcedureFolder = state.SimulatorPath;
-    state.ProcedureFolder += FolderOf(state.ProcedureMode);
-    program_.modifyProcedure.Show();
+    if (!workplace_.modifyProcedure.IsLoaded()) return false;
+    state_.ProcedureFolder = state_.SimulatorPath;
+    state_.ProcedureFolder += FolderOf(state_.ProcedureMode);
+    workplace_.modifyProcedure.Show();
     return true;
 }
 
 void InitialLoad::SetProcedure(const MenuAction& action) {
-    program_.state.ProcedureFolder = program_.state.SimulatorPath;
-    program_.state.ProcedureFolder += action.folder;
-    program_.state.ProcedureMode = action.mode;
+    state_.ProcedureFolder = state_.SimulatorPath;
+    state_.ProcedureFolder += action.folder;
+    state_.ProcedureMode = action.mode;
 }
 
 }  // namespace tarvex

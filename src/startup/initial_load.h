@@ -1,18 +1,20 @@
 #pragma once
 
-#include "startup/settings_file.h"
+#include <functional>
+
+#include "startup/workplace.h"
 #include "toolkit/form.h"
 #include "toolkit/simple_controls.h"
 
 namespace tarvex {
 
-class Program;
 struct MenuAction;
 
 // The first screen: its load is the start of the program, and then it stands as the main menu.
 class InitialLoad : public Form {
   public:
-    explicit InitialLoad(Program& program);
+    // `letChooseRunway`: makes the new procedure in the editor one that can, or can't, be runway specific.
+    InitialLoad(const Workplace& workplace, std::function<void(bool)> letChooseRunway);
 
     Button CreateDP{*this, "CreateDP", "Create a New DP (SID)", 0};
     Button ModifyDP{*this, "ModifyDP", "Modify a DP (SID)", 1};
@@ -35,7 +37,7 @@ class InitialLoad : public Form {
     void ModifyDP_Click();
     void ModifySTAR_Click();
     void ModifyIAP_Click();
-    void ExitCommand_Click();
+    void ExitCommand_Click() { Unload(); }
 
   private:
     // Bring the settings into the shared state; false when the user has to choose the folder first.
@@ -43,7 +45,6 @@ class InitialLoad : public Form {
     bool RecoverShortSettings();
     bool RecoverMissingSettings();
     void RewriteSettings(const Settings& settings);
-    void Take(const Settings& settings);
 
     // The menu stands beside the editor when the user chose the folder anew meanwhile. Any action then leads
     // back to the procedure that is open, which keeps its kind and is saved in the new folder.
@@ -52,7 +53,9 @@ class InitialLoad : public Form {
     void Modify(const MenuAction& action);
     void SetProcedure(const MenuAction& action);
 
-    Program& program_;
+    const Workplace& workplace_;
+    SharedState& state_;
+    std::function<void(bool)> letChooseRunway_;
 };
 
 }  // namespace tarvex

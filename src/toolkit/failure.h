@@ -2,6 +2,7 @@
 
 #include <exception>
 #include <string>
+#include <utility>
 
 namespace tarvex {
 
@@ -39,5 +40,9 @@ struct ProgramStopped {
     int exitStatus = 0;
     std::string reason;  // one line for a terminal; empty when there is nothing to tell
 };
+
+[[noreturn]] inline void StopProgram(int exitStatus, std::string reason = {}) {
+    throw ProgramStopped{exitStatus, std::move(reason)};
+}
 
 }  // namespace tarvex

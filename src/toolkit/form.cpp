@@ -15,6 +15,14 @@ void Form::SetCaption(std::string_view caption) {
     if (observer_) observer_();
 }
 
+void Form::Hide() {
+    if (FormSlotBase* slot = host_.SlotOf(*this)) slot->Hide();
+}
+
+void Form::Unload() {
+    if (FormSlotBase* slot = host_.SlotOf(*this)) slot->Unload();
+}
+
 Control* Form::Find(std::string_view name) const {
     const auto found = std::find_if(controls_.begin(), controls_.end(),
                                     [name](const Control* control) { return control->Name() == name; });

@@ -47,6 +47,10 @@ class Form {
     // without any.
     Control* NextTabStop(const Control* from, bool forward) const;
 
+    // What its slot does. Nothing for a form that is on its way out already.
+    void Hide();
+    void Unload();
+
     // The button that Escape presses; null for none.
     virtual Button* WayOut() { return nullptr; }
     virtual std::vector<Shortcut> Shortcuts() { return {}; }

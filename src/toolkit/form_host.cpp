@@ -49,14 +49,22 @@ void FormHost::BringToFront(Form& form) {
     focus_.Activate(form);
 }
 
-void FormHost::TakeOffScreen(Form& form) {
+void FormHost::TakeOffScreen(Form& form, const FormSlotBase* opener) {
     // A form can have the focus before it is on the screen, given in its Form_Load.
     const Control* current = focus_.Current();
     const bool hadFocus = current != nullptr && &current->Owner() == &form;
     const bool wasVisible = std::erase(visible_, &form) > 0;
     focus_.FormGone(form);
     const bool focusIsFree = hadFocus || (wasVisible && current == nullptr);
-    if (focusIsFree && !visible_.empty()) focus_.Activate(*visible_.back());
+    if (!focusIsFree || visible_.empty()) return;
+    const bool openerIsThere = opener != nullptr && opener->form_ != nullptr && opener->form_->Visible();
+    focus_.Activate(openerIsThere ? *opener->form_ : *visible_.back());
+}
+
+void FormHost::UnloadToolsOf(const FormSlotBase& slot) {
+    for (FormSlotBase* tool : slots_) {
+        if (tool->opener_ == &slot) tool->Unload();
+    }
 }
 
 void FormHost::Bury(std::unique_ptr<Form> form) {
@@ -86,10 +94,15 @@ void FormSlotBase::Show() {
         }
         loading_ = false;
         if (form_.get() != made) return;
-        if (hiddenInLoad_) return host_.TakeOffScreen(*form_);
+        if (hiddenInLoad_) return host_.TakeOffScreen(*form_, opener_);
     }
     form_->visible_ = true;
     host_.BringToFront(*form_);
+}
+
+void FormSlotBase::ShowAsToolOf(const Form& opener) {
+    opener_ = host_.SlotOf(opener);
+    Show();
 }
 
 void FormSlotBase::Hide() {
@@ -98,13 +111,14 @@ void FormSlotBase::Hide() {
     if (!form_->visible_) return;
     form_->visible_ = false;
     host_.Notify().FormHidden(*form_);
-    host_.TakeOffScreen(*form_);
+    host_.TakeOffScreen(*form_, opener_);
 }
 
 void FormSlotBase::Unload() {
     if (form_ == nullptr || unloading_) return;
     unloading_ = true;
     try {
+        host_.UnloadToolsOf(*this);
         form_->Form_Unload();
     } catch (...) {
         unloading_ = false;
@@ -118,7 +132,7 @@ void FormSlotBase::End() {
     auto form = std::move(form_);
     form->visible_ = false;
     host_.Notify().FormUnloaded(*form);
-    host_.TakeOffScreen(*form);
+    host_.TakeOffScreen(*form, std::exchange(opener_, nullptr));
     host_.Bury(std::move(form));
 }
 

@@ -63,7 +63,10 @@ class FormHost {
     friend class FormSlotBase;
 
     void BringToFront(Form& form);
-    void TakeOffScreen(Form& form);
+    // Takes the focus from a form that is no longer visible, to the form `opener` holds if it is on the
+    // screen, else to the one in front.
+    void TakeOffScreen(Form& form, const FormSlotBase* opener);
+    void UnloadToolsOf(const FormSlotBase& slot);
     void Bury(std::unique_ptr<Form> form);
 
     FormObserver silent_;
@@ -90,10 +93,13 @@ class FormSlotBase {
     // Loads the form if need be and brings it to the front with the focus. A form that hides or unloads
     // itself in its Form_Load does not come up.
     void Show();
+    // The same as a tool of `opener`, which must be loaded: the tool is unloaded in front of it, and one that
+    // goes away gives the focus back to it.
+    void ShowAsToolOf(const Form& opener);
     // Takes the form off the screen and keeps it loaded. Does nothing when it is not loaded.
     void Hide();
-    // Runs Form_Unload and ends the form. A form may do so in the middle of its own operation: its object
-    // lives until the outermost event has ended. Does nothing when it is not loaded.
+    // Unloads the form's tools, runs Form_Unload and ends the form. A form may do so in the middle of its own
+    // operation: its object lives until the outermost event has ended. Does nothing when it is not loaded.
     void Unload();
 
   protected:
@@ -107,6 +113,7 @@ class FormSlotBase {
 
     FormHost& host_;
     std::unique_ptr<Form> form_;
+    const FormSlotBase* opener_ = nullptr;  // of the form whose tool this one is; null for none
     bool loading_ = false;
     bool unloading_ = false;
     bool hiddenInLoad_ = false;

@@ -28,7 +28,7 @@ void ListBox::AddItem(std::string_view text, int index) {
     lines_.emplace(lines_.begin() + index, text);
     if (listIndex_ >= index) ++listIndex_;
     newestLine_ = index;
-    CountChanged();
+    Changed();
 }
 
 void ListBox::RemoveItem(int index) {
@@ -40,7 +40,7 @@ void ListBox::RemoveItem(int index) {
         --listIndex_;
     }
     newestLine_ = NoSelection;
-    CountChanged();
+    Changed();
 }
 
 void ListBox::Clear() {
@@ -51,12 +51,7 @@ void ListBox::SetLines(std::vector<std::string> lines) {
     lines_ = std::move(lines);
     listIndex_ = NoSelection;
     newestLine_ = NoSelection;
-    CountChanged();
-}
-
-void ListBox::CountChanged() const {
     Changed();
-    Run(OnCount);
 }
 
 std::vector<std::string> ColumnList::Cells(int index) const {

@@ -42,10 +42,8 @@ class ListBox : public Control {
     bool TakesFocus() const override { return true; }
 
     std::function<void()> OnClick;
-    std::function<void()> OnCount;  // lines were added or taken away
 
   private:
-    void CountChanged() const;
 
     std::vector<std::string> lines_;
     int listIndex_ = NoSelection;

@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "geometry/text_rules.h"
+#include "startup/shared_state.h"
 #include "support/memory_file_system.h"
+#include "support/rows.h"
 
 namespace tarvex::testing {
 namespace {
@@ -29,13 +31,14 @@ class ProcedureReader : public ::testing::Test {
         state.ProcedureFolder = "C:\\F\\";
         state.ProcedureFileName = "KXYZ-DEMO1.wst";
         state.ProcedureMode = "S";
-        state.WaypointTable[0].WaypointID = "BEFORE";
-        state.WaypointCount = 1;
+        PutBefore();
     }
+
+    void PutBefore() { state.Rows.Assign(std::vector<WaypointRecord>{{.WaypointID = "BEFORE"}}); }
 
     std::int32_t Read(const std::string& text) {
         files.Put(Path, text);
-        return ReadProcedureFile(files, state);
+        return ReadProcedureFile(files, state, state.ProgramVersion, state.Navigation, state.Rows);
     }
     // The names of the rows, without trailing blanks.
     std::vector<std::string> Names() {
@@ -69,7 +72,7 @@ class ProcedureReader : public ::testing::Test {
 };
 
 TEST_F(ProcedureReader, StoresEveryColumnAndSplitsTheCoordinates) {
-    state.WaypointTable[1].WaypointID = "BEHIND";
+    LeaveBehind(state.Rows, {.WaypointID = "BEHIND"});
     EXPECT_EQ(Read(Written("W,ROBUC,,0,40.512345,-73.851234,113.60,250,3000,10000,3,\r\n")), 1);
     const WaypointRecord expected{"ROBUC", "0",        "40.512345", "40",  "30.7407", False,   "-73.851234",
                                   "73",    "51.07404", "113.60",    "250", "3000",    "10000", "3"};
@@ -169,16 +172,14 @@ TEST_F(ProcedureReader, FileCutOffAnywhereIsReadOrRefusedWhole) {
                 std::string(", line ") + (insideFirst ? "3" : "4") + ": the file ends inside this waypoint");
         } else {
             EXPECT_EQ(Read(text), size <= firstRecord ? 0 : size <= secondRecord ? 1 : 2) << size;
-            state.WaypointTable[0].WaypointID = "BEFORE";
-            state.WaypointCount = 1;
+            PutBefore();
         }
     }
 }
 
 TEST_F(ProcedureReader, TakesAFullTableAndRefusesMore) {
     EXPECT_EQ(Read(Written(Repeated(Waypoint, 201))), 201);
-    state.WaypointTable[0].WaypointID = "BEFORE";
-    state.WaypointCount = 1;
+    PutBefore();
     for (const int count : {202, 100'000}) {
         ExpectRefused(Written(Repeated(Waypoint, count)), false, ", line 204: more than 201 waypoints");
     }
@@ -225,7 +226,7 @@ TEST_F(ProcedureReader, ConvertsRunwaysOfOlderApproaches) {
     EXPECT_EQ(state.WaypointTable[0].WaypointID, FixedField<10>("RW27L"));
     EXPECT_EQ(state.WaypointTable[0].LatMinutes, "30");
 
-    EXPECT_EQ(ReadProcedureFile(files, state), 5);
+    EXPECT_EQ(ReadProcedureFile(files, state, state.ProgramVersion, state.Navigation, state.Rows), 5);
     EXPECT_EQ(files.Writes(), 1);
 }
 

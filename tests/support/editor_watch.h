@@ -4,11 +4,11 @@
 #include <string>
 #include <vector>
 
-#include "startup/program.h"
 #include "support/faulty_file_system.h"
 #include "support/findings.h"
 #include "support/memory_file_system.h"
 #include "support/random_user.h"
+#include "support/screens.h"
 
 namespace tarvex::testing {
 

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "startup/program.h"
+#include "support/screens.h"
 
 namespace tarvex::testing {
 

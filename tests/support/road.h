@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "startup/program.h"
+#include "support/screens.h"
 #include "support/test_services.h"
 
 namespace tarvex::testing {

@@ -3,9 +3,9 @@
 #include <string>
 
 #include "navigation/search.h"
-#include "startup/program.h"
 #include "support/findings.h"
 #include "support/random_user.h"
+#include "support/screens.h"
 
 namespace tarvex::testing {
 

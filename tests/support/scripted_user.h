@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "startup/program.h"
+#include "support/screens.h"
 
 namespace tarvex::testing {
 

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "startup/program.h"
 #include "support/memory_file_system.h"
+#include "support/screens.h"
 
 namespace tarvex {
 
