@@ -186,7 +186,7 @@ void ProfileScene::PutGradient(const RoutePoint& from, const RoutePoint& to) {
     const Point middle{(begin.x + end.x) / 2, (begin.y + end.y) / 2};
     if (measure_.Width(text, SmallText, false) > room || !InSight(middle.x)) return;
     const double turn = std::atan2(end.y - begin.y, end.x - begin.x);
-    constexpr double Above = 9;
+    constexpr double Above = 12;
     Put(Words{.text = text,
               .at = {middle.x + Above * std::sin(turn), middle.y - Above * std::cos(turn)},
               .align = Words::Align::Centre,
