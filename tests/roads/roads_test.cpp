@@ -57,6 +57,9 @@ class Walk {
     explicit Walk(Screens& shown) : shown_(shown) { services.PutSimulator(); }
 
     std::string Line(const std::string& line) {
+        constexpr std::string_view faults = "each fault of ";
+        if (line.starts_with(faults)) return EachFault(line.substr(faults.size()));
+        done_.push_back(line);
         if (line.starts_with("> ")) {
             std::string before;
             if (!road.program) before = Start();
@@ -70,6 +73,70 @@ class Walk {
     }
 
   private:
+    using Files = MemoryFileSystem;
+    static constexpr int Faults[] = {FileNotFound, PathNotFound, PermissionDenied, AccessError,
+                                     DeviceError,  DiskFull,     Files::ShortRead};
+
+    static std::string NameOf(const Files::Done& done) {
+        constexpr const char* names[] = {"read",          "write",           "find",
+                                         "list files of", "list folders of", "enter"};
+        return std::string(names[static_cast<int>(done.operation)]) + " " + done.path;
+    }
+
+    // The walk up to here and on by `acts` on a machine of its own, whose operation `n` of them fails.
+    std::unique_ptr<Walk> Again(const std::string& acts, std::size_t n, int number) const {
+        auto walk = std::make_unique<Walk>(shown_);
+        for (const std::string& line : done_) walk->Line(line);
+        walk->before_ = walk->services.files.Contents();
+        walk->services.files.FailAt(n, number);
+        walk->told_ = walk->Line(acts);
+        return walk;
+    }
+
+    std::string EachFault(const std::string& acts) const {
+        const auto sound = Again(acts, Files::Never, 0);
+        const auto& operations = sound->services.files.Operations();
+        std::string all;
+        for (std::size_t n = 0; n < operations.size(); ++n) {
+            std::vector<std::pair<std::string, std::string>> outcomes;  // and the numbers that lead there
+            for (const int number : Faults) {
+                const bool half = number == Files::ShortRead;
+                if (half && operations[n].operation != Files::Operation::Read) continue;
+                const std::string outcome = Again(acts, n, number)->Outcome(*sound);
+                const auto known = std::find_if(outcomes.begin(), outcomes.end(),
+                                                [&](const auto& entry) { return entry.first == outcome; });
+                std::string& numbers =
+                    (known == outcomes.end() ? outcomes.emplace_back(outcome, "") : *known).second;
+                numbers += (numbers.empty() ? "" : " ") + (half ? "half" : std::to_string(number));
+            }
+            all += "    " + NameOf(operations[n]) + "\n";
+            for (const auto& [outcome, numbers] : outcomes) all += "      " + numbers + ": " + outcome + "\n";
+        }
+        return all;
+    }
+
+    std::string Outcome(const Walk& sound) {
+        std::string outcome;
+        for (const std::string& line : LinesOf(told_)) {
+            if (line.starts_with("    [")) outcome += line.substr(4, line.find(']') - 3) + " ";
+        }
+        const std::string place = road.Place();
+        outcome += place.substr(0, place.find(':'));
+        const auto after = services.files.Contents();
+        const auto meant = sound.services.files.Contents();
+        for (const auto& [path, text] : before_) {
+            if (!after.contains(path)) outcome += ", loses " + path;
+        }
+        for (const auto& [path, text] : after) {
+            const auto was = before_.find(path);
+            const auto is = meant.find(path);
+            const bool sane =
+                (was != before_.end() && was->second == text) || (is != meant.end() && is->second == text);
+            if (!sane) outcome += ", spoils " + path;
+        }
+        return outcome;
+    }
+
     std::string Shown(const std::string& screen) {
         const Words lines = LinesOf(road.Show(screen));
         const auto [first, isFirst] = shown_.try_emplace(screen, lines);
@@ -143,7 +210,10 @@ class Walk {
     TestServices services;
     Road road{services};
     Screens& shown_;
-    std::string file_;  // put last
+    Words done_;                                 // the lines so far
+    std::map<std::string, std::string> before_;  // the files, before a fault
+    std::string told_;                           // behind it
+    std::string file_;                           // put last
     std::string fixes_, navaids_, airports_;
 };
 
@@ -210,7 +280,7 @@ TEST_P(Roads, LeadWhereTheyAreToldTo) {
 
 INSTANTIATE_TEST_SUITE_P(, Roads,
                          ::testing::Values("screens", "fields", "rows", "select", "save", "open", "search",
-                                           "arc", "derived", "start", "folder", "tools"),
+                                           "arc", "derived", "start", "folder", "tools", "faults"),
                          [](const auto& road) { return std::string(road.param); });
 
 }  // namespace

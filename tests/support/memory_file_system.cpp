@@ -49,6 +49,12 @@ bool MemoryFileSystem::Has(const std::string& path) const {
     return files_.contains(Key(path));
 }
 
+std::map<std::string, std::string> MemoryFileSystem::Contents() const {
+    std::map<std::string, std::string> contents;
+    for (const auto& [key, entry] : files_) contents[key] = entry.text;
+    return contents;
+}
+
 const std::string& MemoryFileSystem::Content(const std::string& path) const {
     const auto found = files_.find(Key(path));
     if (found == files_.end()) throw std::runtime_error("no file " + path);

@@ -17,6 +17,8 @@ class MemoryFileSystem : public FileSystem {
     void Remove(const std::string& path);
     void RemoveFolder(const std::string& path);
     bool Has(const std::string& path) const;
+    // All files, by their paths in lower case.
+    std::map<std::string, std::string> Contents() const;
     // What a file holds. A missing one fails the test with an exception.
     const std::string& Content(const std::string& path) const;
 

@@ -100,8 +100,10 @@ std::string Road::Unwritten(std::string_view text) {
 
 std::string Road::Start(FileSystem* files, const std::string& folder) {
     const Platform machine = services.ForProgram();
+    copies_.clear();
     program = std::make_unique<Program>(Platform{files != nullptr ? *files : machine.files, machine.registry,
                                                  machine.clock, machine.messages, folder});
+    program->host.SetObserver(this);
     place_.clear();
     rows_.clear();
     services.files.ForgetOperations();
@@ -110,6 +112,35 @@ std::string Road::Start(FileSystem* files, const std::string& folder) {
     NoteMessages();
     NoteChanges({});
     return trace_;
+}
+
+void Road::FormShown(Form& form) {
+    const auto [entry, isNew] = copies_.try_emplace(&form);
+    if (!isNew) return;
+    auto& copies = entry->second;
+    copies[nullptr].text = form.Caption();
+    form.Observe([&copies, &form] { copies[nullptr].text = form.Caption(); });
+    for (Control* control : form.Controls()) {
+        copies[control] = StateOf(*control);
+        control->Observe([&copies, control] { copies[control] = StateOf(*control); });
+    }
+}
+
+void Road::FormUnloaded(Form& form) {
+    form.Observe(nullptr);
+    for (Control* control : form.Controls()) control->Observe(nullptr);
+    copies_.erase(&form);
+}
+
+std::string Road::Untold() const {
+    std::string untold;
+    for (const auto& [form, copies] : copies_) {
+        for (const auto& [control, copy] : copies) {
+            const bool same = control == nullptr ? copy.text == form->Caption() : copy == StateOf(*control);
+            if (!same) untold += (control == nullptr ? form->Name() : control->Name()) + " ";
+        }
+    }
+    return untold;
 }
 
 std::string Road::Do(std::string_view acts) {
@@ -404,6 +435,7 @@ void Road::NoteChanges(const States& before) {
     }
     NoteFiles();
     if (!Runs()) return;
+    if (const std::string untold = Untold(); !untold.empty()) Note("not told: " + untold);
     const auto rows = Rows();
     std::vector<std::string> changed;
     const bool closed = Screen("ModifyProcedure") == nullptr;

@@ -29,7 +29,10 @@ namespace tarvex::testing {
 // A name is that of a control on the screen nearest to the front that has one; "Screen.Name" is that
 // screen's.
 // "\xE9" is a byte, and so is any other that is no plain character; CR LF is written as a pilcrow.
-class Road {
+//
+// The road also holds what native windows would: a copy of each control, taken anew when the control tells of
+// a change.
+class Road : FormObserver {
   public:
     explicit Road(TestServices& machine) : services(machine) {}
 
@@ -56,6 +59,9 @@ class Road {
     Control* Find(std::string_view name) const;
     Form* Screen(std::string_view name) const;
 
+    // The controls whose copies are no longer what they are, with blanks between.
+    std::string Untold() const;
+
     // A text as it is written here, and back.
     static std::string Written(std::string_view text);
     static std::string Unwritten(std::string_view text);
@@ -68,8 +74,12 @@ class Road {
     struct State {
         std::string text;
         std::map<std::string, std::string> parts;
+        friend bool operator==(const State&, const State&) = default;
     };
     using States = std::map<std::string, State>;
+
+    void FormShown(Form& form) override;
+    void FormUnloaded(Form& form) override;
 
     bool Act(std::string_view act);
     bool ActOn(Control& control, char how, const std::string& text);
@@ -85,6 +95,7 @@ class Road {
     static State StateOf(const Control& control);
     static std::string Told(const Control& control);
 
+    std::map<const Form*, std::map<const Control*, State>> copies_;  // with the form's caption under null
     std::string trace_;
     std::string place_;
     std::string acted_;  // the control that the last act must leave the focus on, unless told otherwise
