@@ -33,3 +33,14 @@ function(tarvex_layer_files layer)
     endif()
   endforeach()
 endfunction()
+
+# Holds the includes of all sources against the folders at every build; nothing is compiled before.
+function(tarvex_fence)
+  file(GLOB_RECURSE files CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.h ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  set(fence ${CMAKE_SOURCE_DIR}/cmake/fence.cmake)
+  set(stamp ${CMAKE_BINARY_DIR}/fence.stamp)
+  add_custom_command(OUTPUT ${stamp} DEPENDS ${files} ${fence}
+    COMMAND ${CMAKE_COMMAND} "-DFILES=${files}" -DSTAMP=${stamp} -P ${fence} VERBATIM)
+  add_custom_target(tarvex_fence DEPENDS ${stamp})
+  add_dependencies(tarvex_system tarvex_fence)
+endfunction()

@@ -5,7 +5,7 @@
 #include <wx/image.h>
 #include <wx/mstream.h>
 
-#include "tarvex_icon.h"
+#include <tarvex_icon.h>
 #endif
 
 namespace tarvex {
