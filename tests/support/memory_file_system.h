@@ -45,6 +45,8 @@ class MemoryFileSystem : public FileSystem {
     // The operations since FailAt, or since they were last forgotten.
     const std::vector<Done>& Operations() const { return done_; }
     void ForgetOperations() { done_.clear(); }
+    // Whether the operation that FailAt told has come.
+    bool FaultMet() const { return done_.size() > faultAt_; }
 
     void SetDrives(std::vector<std::string> drives) { drives_ = std::move(drives); }
     void SetCurrentFolder(std::string folder) { currentFolder_ = std::move(folder); }

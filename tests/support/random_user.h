@@ -3,12 +3,10 @@
 #include <cstddef>
 #include <deque>
 #include <random>
-#include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "support/screens.h"
+#include "support/road.h"
 
 namespace tarvex::testing {
 
@@ -28,70 +26,26 @@ class Chance {
     std::mt19937 engine_;
 };
 
-// Answers at random.
-class RandomMessageBox : public MessageBox {
-  public:
-    explicit RandomMessageBox(Chance& chance) : chance_(chance) {}
-
-    MessageAnswer Show(const Message& message) override;
-    int Shown() const { return shown_; }
-    // The messages shown since they were last forgotten.
-    const std::vector<Message>& Recent() const { return recent_; }
-    void Forget() { recent_.clear(); }
-
-  private:
-    Chance& chance_;
-    int shown_ = 0;
-    std::vector<Message> recent_;
-};
-
-// A user who does anything that a user can do with the screens that are there: types all kinds of text,
-// presses, picks, selects, uses keys, changes and closes windows. Now and then, so that something comes of
-// it, goes by a plan: a whole waypoint, a name and a save, work on a row, a search, an ARC, a derived
-// waypoint.
+// A user who does anything that a user can do with the screens that are there. Now and then, so that
+// something comes of it, goes by a plan: a whole waypoint, a name and a save, work on a row, a search, an
+// ARC, a derived waypoint.
 class RandomUser {
   public:
-    // Presses rarely what only leads away.
-    RandomUser(Program& program, Chance& chance) : program_(program), door_(program.door), chance_(chance) {}
+    RandomUser(Road& road, Chance& chance) : road_(road), chance_(chance) {}
 
-    struct Act {
-        std::string form;
-        std::string on;    // a control, or a key such as "CtrlUp"
-        std::string what;  // as "types 33"
-    };
-    // One act, whether it comes to something or not.
-    Act Next();
+    // Does one act, whether it comes to something or not, and gives it as the road writes it.
+    std::string Next();
+    void ForgetPlan() { plan_.clear(); }
 
   private:
-    struct Step {
-        std::string control;
-        std::string text;
-        std::string form;  // where the control stands; empty: in front of all others that have it
-    };
-    using Steps = std::deque<Step>;
+    std::string Choose();
+    std::string ChooseOn(const Control& control);
+    std::string ChooseText(const std::string& before);
+    void MakePlan();
 
-    Form* ChooseForm();
-    Control* ChooseControl(Form& form);
-    std::string ChooseText(const TextBox& box);
-    Act MendBox();
-    Act ActOn(Control& control);
-    std::string Choose(FolderList& list);
-    Act PressKey(Form& form);
-    Act CloseWindow();
-    Act FollowPlan();
-
-    Steps Plan();
-    Steps PlanSave();
-    Steps PlanWaypoint();
-    Steps PlanWorkOnRow();
-    Steps PlanSearch();
-    Steps PlanArc();
-    Steps PlanDerived();
-
-    Program& program_;
-    UserDoor& door_;
+    Road& road_;
     Chance& chance_;
-    Steps plan_;
+    std::deque<std::string> plan_;
 };
 
 }  // namespace tarvex::testing

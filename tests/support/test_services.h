@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <gtest/gtest.h>
 #include <map>
 #include <ostream>
@@ -28,6 +29,8 @@ namespace tarvex::testing {
 class ScriptedMessageBox : public MessageBox {
   public:
     void Answer(MessageAnswer answer) { answers_.push_back(answer); }
+    // From now on questions without a script are answered with Yes where `yes` gives true, else with No.
+    void AnswerBy(std::function<bool()> yes) { yes_ = std::move(yes); }
     using Answered = std::pair<Message, MessageAnswer>;
     // The messages shown since the last call, with their answers.
     std::vector<Answered> TakeAnswered() { return std::exchange(shown_, {}); }
@@ -42,6 +45,9 @@ class ScriptedMessageBox : public MessageBox {
         if (message.buttons == MessageButtons::YesNo && answer == MessageAnswer::Ok) {
             answer = MessageAnswer::Yes;
         }
+        if (message.buttons == MessageButtons::YesNo && yes_) {
+            answer = yes_() ? MessageAnswer::Yes : MessageAnswer::No;
+        }
         if (message.buttons == MessageButtons::YesNo && !answers_.empty()) {
             answer = answers_.front();
             answers_.pop_front();
@@ -52,6 +58,7 @@ class ScriptedMessageBox : public MessageBox {
 
   private:
     std::deque<MessageAnswer> answers_;
+    std::function<bool()> yes_;
     std::vector<Answered> shown_;
 };
 
