@@ -4,6 +4,7 @@
 
 #include "desktop/desktop.h"
 #include "desktop/native_message_box.h"
+#include "desktop/native_pictures.h"
 #include "toolkit/native_clock.h"
 #include "toolkit/native_file_system.h"
 #include "toolkit/native_registry.h"
@@ -15,7 +16,8 @@ struct App::Run {
     std::unique_ptr<Registry> registry = MakeNativeRegistry();
     std::unique_ptr<Clock> clock = MakeNativeClock();
     NativeMessageBox messages;
-    Program program{Platform{*files, *registry, *clock, messages, NativeProgramFolder()}};
+    NativePictures pictures;
+    Program program{Platform{*files, *registry, *clock, messages, pictures, NativeProgramFolder()}};
     Desktop desktop{program};
 };
 
@@ -39,6 +41,7 @@ bool App::OnInit() {
         if (event.CanVeto() && run_->program.modifyProcedure.IsLoaded()) event.Veto();
     });
     run_->messages.StandOver(run_->desktop);
+    run_->pictures.StandOver(run_->desktop);
     run_->desktop.Start();
     return true;
 }

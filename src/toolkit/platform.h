@@ -5,6 +5,7 @@
 #include "toolkit/clock.h"
 #include "toolkit/file_system.h"
 #include "toolkit/message_box.h"
+#include "toolkit/picture_services.h"
 #include "toolkit/registry.h"
 
 namespace tarvex {
@@ -15,6 +16,7 @@ struct Platform {
     Registry& registry;
     Clock& clock;
     MessageBox& messages;
+    PictureServices& pictures;
     std::string programFolder;  // the folder that holds the executable, as a path of `files`
 };
 

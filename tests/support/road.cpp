@@ -102,7 +102,7 @@ std::string Road::Start(FileSystem* files, const std::string& folder) {
     const Platform machine = services.ForProgram();
     copies_.clear();
     program = std::make_unique<Program>(Platform{files != nullptr ? *files : machine.files, machine.registry,
-                                                 machine.clock, machine.messages, folder});
+                                                 machine.clock, machine.messages, machine.pictures, folder});
     program->host.SetObserver(this);
     place_.clear();
     rows_.clear();

@@ -106,6 +106,24 @@ class FixedClock : public Clock {
     std::string ShortDate() override { return "5/14/2001"; }
 };
 
+// Letters of one width. A picture is saved where `place` says; as pixels it is the number of its items.
+class ScriptedPictures : public PictureServices {
+  public:
+    std::optional<std::string> place;
+    std::string proposed;  // the name that was proposed last
+    std::string copied;
+
+    double Width(const std::string& text, double size, bool) const override {
+        return 0.6 * size * static_cast<double>(text.size());
+    }
+    std::optional<std::string> AskForPlace(const std::string& name) override {
+        proposed = name;
+        return place;
+    }
+    std::string PngOf(const Drawing& drawing) override { return std::to_string(drawing.items.size()); }
+    void Copy(const std::string& text) override { copied = text; }
+};
+
 // The services of a machine of which everything is in memory. The program lies in C:\Tarvex, the simulator in
 // C:\FS2000.
 struct TestServices {
@@ -113,10 +131,11 @@ struct TestServices {
     FakeRegistry registry;
     FixedClock clock;
     ScriptedMessageBox messages;
+    ScriptedPictures pictures;
 
     TestServices() { files.PutFolder("C:\\Tarvex"); }
 
-    Platform ForProgram() { return {files, registry, clock, messages, "C:\\Tarvex"}; }
+    Platform ForProgram() { return {files, registry, clock, messages, pictures, "C:\\Tarvex"}; }
 
     // The simulator's folder as its setup leaves it in the registry.
     void Register(const std::string& folder) {
