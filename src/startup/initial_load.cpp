@@ -7,31 +7,14 @@
 
 namespace tarvex {
 
-// What an action of the menu fixes for the kind of procedure.
-struct MenuAction {
-    std::string_view mode;
-    std::string_view folder;      // below the simulator folder
-    bool runwaySpecific = false;  // whether RwySpecificCheck can be used in the new procedure
-};
-
 namespace {
 
 constexpr std::string_view Version = "2.35";
 
-constexpr std::string_view Departures = "\\Giostam\\navdata\\Sids\\";
-constexpr std::string_view Arrivals = "\\Giostam\\navdata\\Stars\\";
-constexpr std::string_view Approaches = "\\Giostam\\navdata\\Approaches\\";
-
-constexpr MenuAction CreateDPAction{.mode = "E", .folder = Departures, .runwaySpecific = true};
-constexpr MenuAction ModifyDPAction{.mode = "D", .folder = Departures};
-constexpr MenuAction CreateSTARAction{.mode = "T", .folder = Arrivals};
-constexpr MenuAction ModifySTARAction{.mode = "S", .folder = Arrivals};
-constexpr MenuAction CreateIAPAction{.mode = "J", .folder = Approaches};
-constexpr MenuAction ModifyIAPAction{.mode = "I", .folder = Approaches};
-
+// Below the simulator folder.
 std::string_view FolderOf(std::string_view mode) {
-    if (IsDeparture(mode)) return Departures;
-    return IsApproach(mode) ? Approaches : Arrivals;
+    if (IsDeparture(mode)) return "\\Giostam\\navdata\\Sids\\";
+    return IsApproach(mode) ? "\\Giostam\\navdata\\Approaches\\" : "\\Giostam\\navdata\\Stars\\";
 }
 
 }  // namespace
@@ -124,43 +107,19 @@ void InitialLoad::RewriteSettings(const Settings& settings) {
     kept = ReadSettingsFile(files, state_.SettingsPath);
 }
 
-void InitialLoad::CreateDP_Click() {
-    Create(CreateDPAction);
-}
-
-void InitialLoad::CreateSTAR_Click() {
-    Create(CreateSTARAction);
-}
-
-void InitialLoad::CreateIAP_Click() {
-    Create(CreateIAPAction);
-}
-
-void InitialLoad::ModifyDP_Click() {
-    Modify(ModifyDPAction);
-}
-
-void InitialLoad::ModifySTAR_Click() {
-    Modify(ModifySTARAction);
-}
-
-void InitialLoad::ModifyIAP_Click() {
-    Modify(ModifyIAPAction);
-}
-
-void InitialLoad::Create(const MenuAction& action) {
+void InitialLoad::Create(std::string_view mode) {
     if (ReturnToEditor()) return;
-    SetProcedure(action);
+    SetProcedure(mode);
     workplace_.modifyProcedure.Show();
     // The editor may have ended itself while it loaded.
-    if (workplace_.modifyProcedure.IsLoaded()) letChooseRunway_(action.runwaySpecific);
+    if (workplace_.modifyProcedure.IsLoaded()) letChooseRunway_(IsDeparture(mode));
 }
 
-void InitialLoad::Modify(const MenuAction& action) {
+void InitialLoad::Modify(std::string_view mode) {
     if (ReturnToEditor()) return;
     try {
         workplace_.pickFile.Unload();
-        SetProcedure(action);
+        SetProcedure(mode);
         workplace_.pickFile.Show();
     } catch (const Failure& failure) {
         workplace_.RecoverProcedureFolder(failure);
@@ -169,16 +128,15 @@ void InitialLoad::Modify(const MenuAction& action) {
 
 bool InitialLoad::ReturnToEditor() {
     if (!workplace_.modifyProcedure.IsLoaded()) return false;
-    state_.ProcedureFolder = state_.SimulatorPath;
-    state_.ProcedureFolder += FolderOf(state_.ProcedureMode);
+    SetProcedure(std::string(state_.ProcedureMode));
     workplace_.modifyProcedure.Show();
     return true;
 }
 
-void InitialLoad::SetProcedure(const MenuAction& action) {
+void InitialLoad::SetProcedure(std::string_view mode) {
     state_.ProcedureFolder = state_.SimulatorPath;
-    state_.ProcedureFolder += action.folder;
-    state_.ProcedureMode = action.mode;
+    state_.ProcedureFolder += FolderOf(mode);
+    state_.ProcedureMode = mode;
 }
 
 }  // namespace tarvex

@@ -8,8 +8,6 @@
 
 namespace tarvex {
 
-struct MenuAction;
-
 // The first screen: its load is the start of the program, and then it stands as the main menu.
 class InitialLoad : public Form {
   public:
@@ -31,12 +29,12 @@ class InitialLoad : public Form {
     // Ends a normal run.
     void Form_Unload() override;
 
-    void CreateDP_Click();
-    void CreateSTAR_Click();
-    void CreateIAP_Click();
-    void ModifyDP_Click();
-    void ModifySTAR_Click();
-    void ModifyIAP_Click();
+    void CreateDP_Click() { Create("E"); }
+    void CreateSTAR_Click() { Create("T"); }
+    void CreateIAP_Click() { Create("J"); }
+    void ModifyDP_Click() { Modify("D"); }
+    void ModifySTAR_Click() { Modify("S"); }
+    void ModifyIAP_Click() { Modify("I"); }
     void ExitCommand_Click() { Unload(); }
 
   private:
@@ -49,9 +47,10 @@ class InitialLoad : public Form {
     // The menu stands beside the editor when the user chose the folder anew meanwhile. Any action then leads
     // back to the procedure that is open, which keeps its kind and is saved in the new folder.
     bool ReturnToEditor();
-    void Create(const MenuAction& action);
-    void Modify(const MenuAction& action);
-    void SetProcedure(const MenuAction& action);
+    // What the actions do, by the mode that they fix.
+    void Create(std::string_view mode);
+    void Modify(std::string_view mode);
+    void SetProcedure(std::string_view mode);
 
     const Workplace& workplace_;
     SharedState& state_;

@@ -1,7 +1,4 @@
-#include <algorithm>
-#include <map>
 #include <string_view>
-#include <utility>
 
 #include "toolkit/failure.h"
 #include "toolkit/native_file_system.h"
@@ -20,31 +17,14 @@ constexpr std::string_view SoftwareOf32Bit = "Software\\Wow6432Node\\";
 
 class WineRegistry : public Registry {
   public:
-    bool OpenKey(std::uint32_t root, const std::string& path, std::uint32_t, Key& key) override {
+    std::optional<std::string> Value(std::uint32_t root, const std::string& path,
+                                     const std::string& name) override {
         const std::string prefix = WinePrefix();
-        if (root != LocalMachine || prefix.empty()) return false;
-        auto values = Find(PathMapping::ToProgram(prefix + "/system.reg"), path);
-        if (!values) return false;
-        key = ++lastKey_;
-        open_[key] = std::move(*values);
-        return true;
+        if (root != LocalMachine || prefix.empty()) return std::nullopt;
+        const auto values = Find(PathMapping::ToProgram(prefix + "/system.reg"), path);
+        const std::string* value = values ? FindWineValue(*values, name) : nullptr;
+        return value != nullptr ? std::optional(*value) : std::nullopt;
     }
-
-    bool QueryValue(Key key, const std::string& name, char* buffer, std::uint32_t& size) override {
-        const auto values = open_.find(key);
-        if (values == open_.end()) return false;
-        const std::string* bytes = FindWineValue(values->second, name);
-        if (bytes == nullptr) return false;
-        const auto needed = static_cast<std::uint32_t>(bytes->size());
-        if (buffer != nullptr) {
-            if (size < needed) return false;
-            std::copy(bytes->begin(), bytes->end(), buffer);
-        }
-        size = needed;
-        return true;
-    }
-
-    void CloseKey(Key key) override { open_.erase(key); }
 
   private:
     static std::optional<WineKeyValues> Find(const std::string& file, const std::string& path) {
@@ -60,9 +40,6 @@ class WineRegistry : public Registry {
             return std::nullopt;
         }
     }
-
-    std::map<Key, WineKeyValues> open_;
-    Key lastKey_ = 0;
 };
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <windows.h>
 
 #include "toolkit/native_registry.h"
@@ -6,31 +7,37 @@ namespace tarvex {
 
 namespace {
 
+constexpr REGSAM FullAccess = 0xF003F;
+
+std::optional<std::string> ValueOf(HKEY key, const char* name) {
+    DWORD type = 0;
+    DWORD size = 0;
+    if (RegQueryValueExA(key, name, nullptr, &type, nullptr, &size) != ERROR_SUCCESS) return std::nullopt;
+    std::string bytes(size, ' ');
+    if (RegQueryValueExA(key, name, nullptr, &type, reinterpret_cast<BYTE*>(bytes.data()), &size) !=
+        ERROR_SUCCESS) {
+        return std::nullopt;
+    }
+    // The value may have become shorter since its size was asked for.
+    bytes.resize(std::min<std::size_t>(bytes.size(), size));
+    return bytes;
+}
+
 class AdvapiRegistry : public Registry {
   public:
-    bool OpenKey(std::uint32_t root, const std::string& path, std::uint32_t access, Key& key) override {
+    std::optional<std::string> Value(std::uint32_t root, const std::string& path,
+                                     const std::string& name) override {
         // The simulator is a 32-bit program; a 64-bit one sees its keys only on request.
         for (const REGSAM view : {REGSAM{0}, REGSAM{KEY_WOW64_32KEY}}) {
-            HKEY opened = nullptr;
-            if (RegOpenKeyExA(Root(root), path.c_str(), 0, access | view, &opened) == ERROR_SUCCESS) {
-                key = reinterpret_cast<Key>(opened);
-                return true;
-            }
+            HKEY key = nullptr;
+            if (RegOpenKeyExA(Root(root), path.c_str(), 0, FullAccess | view, &key) != ERROR_SUCCESS)
+                continue;
+            auto value = ValueOf(key, name.c_str());
+            RegCloseKey(key);
+            return value;
         }
-        return false;
+        return std::nullopt;
     }
-
-    bool QueryValue(Key key, const std::string& name, char* buffer, std::uint32_t& size) override {
-        DWORD type = 0;
-        DWORD bytes = size;
-        const LSTATUS status = RegQueryValueExA(reinterpret_cast<HKEY>(key), name.c_str(), nullptr, &type,
-                                                reinterpret_cast<BYTE*>(buffer), &bytes);
-        if (status != ERROR_SUCCESS) return false;
-        size = bytes;
-        return true;
-    }
-
-    void CloseKey(Key key) override { RegCloseKey(reinterpret_cast<HKEY>(key)); }
 
   private:
     // The roots are 32-bit numbers that the system widens with their sign.

@@ -4,8 +4,10 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <map>
+#include <optional>
 #include <ostream>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "support/memory_file_system.h"
@@ -67,38 +69,17 @@ class FakeRegistry : public Registry {
   public:
     // The raw bytes of the value, closing zero included where it has one.
     void Put(std::uint32_t root, const std::string& path, const std::string& name, std::string bytes) {
-        values_[{root, path}][name] = std::move(bytes);
+        values_[{root, path, name}] = std::move(bytes);
     }
-    int OpenKeys() const { return openKeys_; }
 
-    bool OpenKey(std::uint32_t root, const std::string& path, std::uint32_t, Key& key) override {
-        const auto found = values_.find({root, path});
-        if (found == values_.end()) return false;
-        opened_.push_back(&found->second);
-        key = opened_.size() - 1;
-        ++openKeys_;
-        return true;
+    std::optional<std::string> Value(std::uint32_t root, const std::string& path,
+                                     const std::string& name) override {
+        const auto found = values_.find({root, path, name});
+        return found != values_.end() ? std::optional(found->second) : std::nullopt;
     }
-    bool QueryValue(Key key, const std::string& name, char* buffer, std::uint32_t& size) override {
-        const Values& values = *opened_.at(key);
-        const auto found = values.find(name);
-        if (found == values.end()) return false;
-        const auto needed = static_cast<std::uint32_t>(found->second.size());
-        if (buffer != nullptr) {
-            if (size < needed) return false;
-            std::copy(found->second.begin(), found->second.end(), buffer);
-        }
-        size = needed;
-        return true;
-    }
-    void CloseKey(Key) override { --openKeys_; }
 
   private:
-    using Values = std::map<std::string, std::string>;
-
-    std::map<std::pair<std::uint32_t, std::string>, Values> values_;
-    std::vector<const Values*> opened_;  // by key
-    int openKeys_ = 0;
+    std::map<std::tuple<std::uint32_t, std::string, std::string>, std::string> values_;
 };
 
 class FixedClock : public Clock {
