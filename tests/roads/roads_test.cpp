@@ -137,6 +137,19 @@ class Walk {
         return outcome;
     }
 
+    std::string Opened(const std::string& path, const std::string& line) {
+        services.files.Put(PathOf(path), Road::Unwritten(line.substr(line.find(path) + path.size() + 1)));
+        if (!road.program || !road.Runs()) Start();
+        const std::string kind = path.substr(0, path.find('\\'));
+        const std::string modify = kind == "Sids" ? "DP" : kind == "Stars" ? "STAR" : "IAP";
+        std::string told = road.Do("Modify" + modify + " | FileList#" + path.substr(kind.size() + 1));
+        if (road.IsThere("ModifyProcedure")) {
+            told.erase(0, told.find('\n') + 1);  // that it is there
+            road.Do("OopsCommand");
+        }
+        return told.empty() ? "    nothing\n" : told;
+    }
+
     std::string Shown(const std::string& screen) {
         const Words lines = LinesOf(road.Show(screen));
         const auto [first, isFirst] = shown_.try_emplace(screen, lines);
@@ -197,6 +210,8 @@ class Walk {
                                : services.files.FailWrite(PathOf(words[2]), number);
         } else if (what == "start") {
             return words[1] == "in" ? Start(words[2]) : Start();
+        } else if (what == "open") {
+            return Opened(words[1], line);
         } else if (what == "see") {
             return road.See(rest);
         } else if (what == "show") {
@@ -280,7 +295,7 @@ TEST_P(Roads, LeadWhereTheyAreToldTo) {
 
 INSTANTIATE_TEST_SUITE_P(, Roads,
                          ::testing::Values("screens", "fields", "rows", "select", "save", "open", "search",
-                                           "arc", "derived", "start", "folder", "tools", "faults"),
+                                           "arc", "derived", "start", "folder", "tools", "faults", "reading"),
                          [](const auto& road) { return std::string(road.param); });
 
 }  // namespace
