@@ -31,28 +31,6 @@ std::vector<double> ShownRadials(const ArcRequest& request) {
     return radials;
 }
 
-TEST(ArcLayoutTest, PositionsOfAQuarterCircle) {
-    using Rows = std::vector<std::string>;
-    const Rows onRadius = {"33.5 -117.050133",      "33.456863 -117.056991", "33.416667 -117.076993",
-                           "33.382149 -117.108768", "33.355662 -117.150149", "33.339012 -117.198318",
-                           "33.333333 -117.25"};
-    const auto rowsOf = [](ArcRequest request) {
-        request.closingPoint = true;
-        Rows rows;
-        for (const ArcPoint& point : LayOutArc(request).points) {
-            const PositionTexts texts = PositionTextsOf(point.position);
-            rows.push_back(texts.latDecimal + " " + texts.longDecimal);
-        }
-        return rows;
-    };
-    Rows right = onRadius;
-    right.push_back("33.366667 -117.25");
-    EXPECT_EQ(rowsOf(RequestOf(90, 180, Turn::Right)), right);
-    Rows left(onRadius.rbegin(), onRadius.rend());
-    left.push_back("33.5 -117.090106");
-    EXPECT_EQ(rowsOf(RequestOf(180, 90, Turn::Left)), left);
-}
-
 TEST(ArcLayoutTest, Radials) {
     const auto west = VariationSide::West;
     const auto east = VariationSide::East;

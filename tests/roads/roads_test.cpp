@@ -204,6 +204,8 @@ class Walk {
             services.Register(rest);
         } else if (what == "drives") {
             services.files.SetDrives(Words(words.begin() + 1, std::find(words.begin(), words.end(), "")));
+        } else if (what == "current") {
+            services.files.SetCurrentFolder(rest);
         } else if (what == "fail") {
             const int number = std::stoi(words[3]);
             words[1] == "read" ? services.files.FailRead(PathOf(words[2]), number)

@@ -109,7 +109,7 @@ std::vector<std::string> MemoryFileSystem::Files(const std::string& folder) {
     std::vector<std::string> names;
     for (const auto& [key, entry] : files_) {
         if (FolderOf(key) == Key(folder))
-            names.push_back(entry.path.substr(entry.path.find_last_of('\\') + 1));
+            names.insert(names.begin(), entry.path.substr(entry.path.find_last_of('\\') + 1));
     }
     return names;
 }
@@ -119,7 +119,9 @@ std::vector<std::string> MemoryFileSystem::Folders(const std::string& folder) {
     RequireFolder(folder);
     std::vector<std::string> names;
     for (const auto& [key, path] : folders_) {
-        if (FolderOf(key) == Key(folder)) names.push_back(path.substr(path.find_last_of('\\') + 1));
+        if (FolderOf(key) == Key(folder)) {
+            names.insert(names.begin(), path.substr(path.find_last_of('\\') + 1));
+        }
     }
     return names;
 }

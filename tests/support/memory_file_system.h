@@ -8,7 +8,8 @@
 
 namespace tarvex::testing {
 
-// A file system in memory. Paths are as the program builds them; case is kept and does not matter.
+// A file system in memory. Paths are as the program builds them; case is kept and does not matter. Names come
+// last first, since no list may rely on their order.
 class MemoryFileSystem : public FileSystem {
   public:
     // Puts a file and the folders on the way to it.

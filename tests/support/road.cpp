@@ -218,7 +218,11 @@ bool Road::Act(std::string_view act) {
     if (acted && Find(key) == control) {
         const State now = StateOf(*control);
         const auto* box = dynamic_cast<TextBox*>(control);
-        if (box == nullptr || box->Text() == text) states_[key] = now;
+        if (now.parts.contains("line")) {
+            states_[key].parts["line"] = now.parts.at("line");
+        } else if (box == nullptr || box->Text() == text) {
+            states_[key] = now;
+        }
     }
     return acted;
 }
@@ -400,7 +404,10 @@ Road::State Road::StateOf(const Control& control) {
     } else if (const auto* drives = dynamic_cast<const DriveList*>(&control)) {
         state.text = drives->Drive() + " of " + Joined(drives->Drives());
     } else if (const auto* folders = dynamic_cast<const FolderList*>(&control)) {
-        state.text = folders->Path();
+        state.text = folders->Path() + ":";
+        for (int row = folders->FirstIndex(); row < folders->ListCount(); ++row) {
+            state.text += " " + folders->Name(row);
+        }
         parts["line"] = "#" + std::to_string(folders->ListIndex());
         const auto chosen = folders->ChosenIndex();
         parts["chosen"] = chosen ? "chosen " + folders->List(*chosen) : "none chosen";

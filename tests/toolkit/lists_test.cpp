@@ -36,42 +36,12 @@ class ListsTest : public ::testing::Test {
         slot.Show();
     }
     Lists& Form() { return *slot.Get(); }
-    Names Rows() {
-        Names rows;
-        for (int i = Form().Dir.FirstIndex(); i < Form().Dir.ListCount(); ++i) {
-            rows.push_back(Form().Dir.Name(i));
-        }
-        return rows;
-    }
 
     MemoryFileSystem files;
     FormHost host;
     FormSlot<Lists> slot{host, [this] { return std::make_unique<Lists>(host, files); }};
     UserDoor door{host};
 };
-
-TEST_F(ListsTest, FolderListShowsTheWayDownAndWhatLiesBelow) {
-    FolderList& list = Form().Dir;
-    EXPECT_EQ(list.Path(), "C:\\Games\\FS");
-    EXPECT_EQ(Rows(), (Names{"C:\\", "Games", "FS", "A", "b", "c"}));
-    EXPECT_EQ(list.List(-3) + list.List(-1) + list.List(2), "C:\\C:\\Games\\FSC:\\Games\\FS\\c");
-    for (const int index : {-4, 3}) EXPECT_EQ(NumberOf([&] { list.List(index); }), BadArgument);
-}
-
-TEST_F(ListsTest, ClickChoosesAndDoubleClickWalks) {
-    FolderList& list = Form().Dir;
-    std::string events;
-    list.OnClick = [&] { events += "click "; };
-    list.OnChange = [&] { events += list.Path() + " "; };
-    EXPECT_TRUE(door.PickFolder(list, 0));
-    EXPECT_EQ(list.ListIndex(), 0);
-    EXPECT_TRUE(door.OpenFolder(list, 0));
-    EXPECT_EQ(list.ListIndex(), FolderList::OpenFolder);
-    EXPECT_TRUE(door.OpenFolder(list, list.FirstIndex()));
-    EXPECT_EQ(Rows(), (Names{"C:\\", "Games"}));
-    EXPECT_TRUE(door.OpenFolder(list, FolderList::OpenFolder));
-    EXPECT_EQ(events, "click C:\\Games\\FS\\A C:\\ ") << "the root itself, not the drive's current folder";
-}
 
 TEST_F(ListsTest, PathOfADriveIsItsCurrentFolder) {
     FolderList& list = Form().Dir;
@@ -83,6 +53,11 @@ TEST_F(ListsTest, PathOfADriveIsItsCurrentFolder) {
     }
     EXPECT_EQ(list.Path(), "C:\\Games\\FS");
     EXPECT_EQ(list.ListCount(), 3);
+    EXPECT_EQ(list.List(-3) + list.List(-1) + list.List(2), "C:\\C:\\Games\\FSC:\\Games\\FS\\c");
+    for (const int index : {-4, 3}) {
+        EXPECT_EQ(NumberOf([&] { list.List(index); }), BadArgument);
+        EXPECT_EQ(NumberOf([&] { list.SetListIndex(index); }), BadArgument);
+    }
 }
 
 TEST_F(ListsTest, DriveListTakesKnownDrivesInAnyForm) {
@@ -97,17 +72,6 @@ TEST_F(ListsTest, DriveListTakesKnownDrivesInAnyForm) {
         EXPECT_EQ(NumberOf([&] { list.SetDrive(unknown); }), PathNotFound) << unknown;
     }
     EXPECT_EQ(list.Drive(), "D:\\");
-}
-
-TEST_F(ListsTest, RootWithoutDrivesServesAsOne) {
-    files.SetDrives({"C:\\", "\\"});
-    files.SetCurrentFolder("\\home\\pilot");
-    files.PutFolder("\\home\\pilot\\fs");
-    slot.Unload();
-    slot.Show();
-    EXPECT_EQ(Form().Drive.Drive(), "\\");
-    EXPECT_EQ(Rows(), (Names{"/", "home", "pilot", "fs"}));
-    EXPECT_EQ(Form().Dir.List(0), "\\home\\pilot\\fs");
 }
 
 TEST_F(ListsTest, FileListNarrowsByTheBeginningOfNamesAndTellsTheNameClicked) {
