@@ -53,7 +53,7 @@ ArcLayout LayOutArc(const ArcRequest& request) {
 
     ArcLayout arc;
     const auto add = [&](double radial, double distance) {
-        const std::optional<RhumbPoint> position = RhumbDestination(center, distance, radial);
+        const std::optional<RhumbPoint> position = RhumbLineStep(center, distance, radial);
         if (position) arc.points.push_back({radial, distance, *position});
         return position.has_value();
     };

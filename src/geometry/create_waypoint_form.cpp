@@ -84,9 +84,9 @@ std::optional<RhumbPoint> CreateWaypointForm::Derived() const {
     const bool complete = variables_.StartPointSelected != False && IsNumberText(DistText.Text()) &&
                           IsNumberText(TrueCourseText.Text());
     if (!complete) return std::nullopt;
-    return RhumbDestination(RhumbPointAt(variables_.StartLat, variables_.StartLong),
-                            StrictNumber(DistText.Text()) * RadiansPerNauticalMile,
-                            StrictNumber(TrueCourseText.Text()) * RadiansPerDegree);
+    return RhumbLineStep(RhumbPointAt(variables_.StartLat, variables_.StartLong),
+                         StrictNumber(DistText.Text()) * RadiansPerNauticalMile,
+                         StrictNumber(TrueCourseText.Text()) * RadiansPerDegree);
 }
 
 void CreateWaypointForm::Command1_Click() {

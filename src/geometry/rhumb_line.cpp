@@ -40,7 +40,7 @@ double PositiveModulus(double y, double x) {
     return (Int(-y / x) + 1) * x + y;
 }
 
-std::optional<RhumbPoint> RhumbDestination(const RhumbPoint& start, double distance, double course) {
+std::optional<RhumbPoint> RhumbLineStep(const RhumbPoint& start, double distance, double course) {
     const double lat1 = start.latitude;
     const double lat = std::cos(course) * distance + lat1;
     if (!IsBetweenPoles(lat1) || !IsBetweenPoles(lat)) return std::nullopt;

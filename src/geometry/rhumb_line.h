@@ -40,7 +40,7 @@ double PositiveModulus(double y, double x);
 // west it divides small differences: over 10 miles and more the change of longitude has 12 good digits far
 // off them, 11 at one degree off, one less for each tenth of that, and at the least 7 between 0.001 and
 // 0.00001 degrees; due east and west have 13.
-std::optional<RhumbPoint> RhumbDestination(const RhumbPoint& start, double distance, double course);
+std::optional<RhumbPoint> RhumbLineStep(const RhumbPoint& start, double distance, double course);
 
 // A rhumb line from one point to another.
 struct RhumbLeg {
@@ -52,10 +52,10 @@ struct RhumbLeg {
 
 // The shorter of the rhumb lines between two points, eastward of two that are as long. At a pole every course
 // but north and south has turned round it already: a line from or to one runs along a meridian.
-// Source: J. P. Snyder, Map Projections: A Working Manual (USGS 1395), chapter 7, the loxodrome on the sphere,
-// with the difference of the isometric latitudes as the inverse hyperbolic sine of
-// (sin lat2 - sin lat1) / (cos lat1 cos lat2), which keeps its digits toward due east and west and near a
-// pole: 1e-9 of the distance and 1e-9 degrees.
+// Source: J. P. Snyder, Map Projections: A Working Manual (USGS 1395), chapter 7, the loxodrome on the
+// sphere, with the difference of the isometric latitudes as the inverse hyperbolic sine of (sin lat2 - sin
+// lat1) / (cos lat1 cos lat2), which keeps its digits toward due east and west and near a pole: 1e-9 of the
+// distance and 1e-9 degrees.
 RhumbLeg RhumbLegBetween(const Position& from, const Position& to);
 
 // A point in the texts of waypoints and boxes. Whole degrees and minutes are magnitudes. All but the whole

@@ -57,7 +57,7 @@ TEST(RhumbLineReferenceTest, AgreesWithGeographicLib) {
             const double lon = longitude(random);
             const double distance = miles(random) * RadiansPerNauticalMile;
             const double course = test.course(random);
-            const auto point = RhumbDestination(RhumbPointAt(lat, lon), distance, course * RadiansPerDegree);
+            const auto point = RhumbLineStep(RhumbPointAt(lat, lon), distance, course * RadiansPerDegree);
             double expectedLat = 0;
             double expectedLon = 0;
             reference.Direct(lat, lon, course, distance, expectedLat, expectedLon);

@@ -8,7 +8,7 @@ namespace {
 
 PositionTexts TextsAt(double lat, double lon, double miles, double course) {
     const auto point =
-        RhumbDestination(RhumbPointAt(lat, lon), miles * RadiansPerNauticalMile, course * RadiansPerDegree);
+        RhumbLineStep(RhumbPointAt(lat, lon), miles * RadiansPerNauticalMile, course * RadiansPerDegree);
     EXPECT_TRUE(point.has_value());
     return point ? PositionTextsOf(*point) : PositionTexts{};
 }
@@ -54,8 +54,8 @@ TEST(RhumbLineTest, PolesEndTheLine) {
         {90, 10, 180, false},    {10, 9999, 180, false}, {89.9, 7, 45, true},    {std::nan(""), 1, 0, false},
     };
     for (const auto& test : cases) {
-        const auto point = RhumbDestination(RhumbPointAt(test.lat, 20), test.miles * RadiansPerNauticalMile,
-                                            test.course * RadiansPerDegree);
+        const auto point = RhumbLineStep(RhumbPointAt(test.lat, 20), test.miles * RadiansPerNauticalMile,
+                                         test.course * RadiansPerDegree);
         EXPECT_EQ(point.has_value(), test.reached) << test.lat << " " << test.miles << " " << test.course;
         EXPECT_LE(std::fabs(point.value_or(RhumbPoint{}).longitude), Pi);
     }
@@ -90,9 +90,8 @@ TEST(RhumbLineTest, LegsLeadBack) {
         for (const double longitude : {-180.0, -179.95, 0.0, 117.25, 179.99}) {
             for (const double course : {0.0, 30.0, 90.0, 135.5, 180.0, 270.0, 359.5}) {
                 for (const double miles : {0.5, 10.0, 500.0}) {
-                    const auto end =
-                        RhumbDestination(RhumbPointAt(latitude, longitude), miles * RadiansPerNauticalMile,
-                                         course * RadiansPerDegree);
+                    const auto end = RhumbLineStep(RhumbPointAt(latitude, longitude),
+                                                   miles * RadiansPerNauticalMile, course * RadiansPerDegree);
                     ASSERT_TRUE(end);
                     const RhumbLeg leg = RhumbLegBetween(
                         {latitude, longitude},
