@@ -4,6 +4,7 @@
 
 #include "geometry/text_rules.h"
 #include "toolkit/failure.h"
+#include "toolkit/lines.h"
 
 namespace tarvex {
 
@@ -16,9 +17,9 @@ std::size_t FindOrEnd(std::string_view text, std::string_view characters, std::s
     return std::min(text.find_first_of(characters, from), text.size());
 }
 
-// Characters of the line end at `index`: CR LF is one of two.
-std::size_t LineEndLength(std::string_view text, std::size_t index) {
-    return text.substr(index).starts_with("\r\n") ? 2 : 1;
+// The index behind the line end at `index`.
+std::size_t BehindLineEnd(std::string_view text, std::size_t index) {
+    return index + static_cast<std::size_t>(LineEndLength(text.data() + index, text.data() + text.size()));
 }
 
 }  // namespace
@@ -46,14 +47,14 @@ std::string_view TextReader::ReadTextLine() {
     itemOwed_ = false;
     const std::size_t start = position_;
     const std::size_t end = FindOrEnd(text_, LineEndCharacters, start);
-    position_ = end < text_.size() ? end + LineEndLength(text_, end) : end;
+    position_ = BehindLineEnd(text_, end);
     return text_.substr(start, end - start);
 }
 
 std::size_t TextReader::LineNumber() const {
     std::size_t line = 1;
     for (std::size_t index = 0; (index = FindOrEnd(text_, LineEndCharacters, index)) < position_;) {
-        index += LineEndLength(text_, index);
+        index = BehindLineEnd(text_, index);
         ++line;
     }
     return line;
@@ -67,7 +68,7 @@ void TextReader::PassItemEnd(std::size_t end) {
     position_ = end;
     if (end == text_.size()) return;
     const bool comma = text_[end] == ',';
-    position_ += comma ? 1 : LineEndLength(text_, end);
+    position_ = comma ? end + 1 : BehindLineEnd(text_, end);
     itemOwed_ = comma && position_ == text_.size();
 }
 

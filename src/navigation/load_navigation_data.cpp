@@ -2,12 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
-#include <cstring>
 #include <limits>
 
 #include "geometry/text_rules.h"
 #include "toolkit/failure.h"
+#include "toolkit/lines.h"
 
 namespace tarvex {
 
@@ -26,53 +25,6 @@ constexpr std::size_t AirportElevationWidth = 5;
 constexpr std::size_t AirportColumns = 75;
 constexpr std::size_t NavaidDecimals = 6;
 constexpr char CommentMark = ';';
-
-// The first CR or LF, or `end`. Lines are short: eight characters at a time in plain arithmetic find their
-// ends faster than a library call for each line does.
-const char* FindLineEnd(const char* at, const char* end) {
-    using Word = std::uint64_t;
-    constexpr Word EachByte = 0x0101010101010101;
-    static_assert(std::endian::native == std::endian::little, "the first character is the lowest byte");
-    while (end - at >= static_cast<std::ptrdiff_t>(sizeof(Word))) {
-        Word word = 0;
-        std::memcpy(&word, at, sizeof word);
-        // The high bit of the lowest byte that is CR or below.
-        const Word low = (word - EachByte * ('\r' + 1)) & ~word & (EachByte * 0x80);
-        if (low == 0) {
-            at += sizeof word;
-            continue;
-        }
-        at += std::countr_zero(low) / 8;
-        if (*at == '\r' || *at == '\n') return at;
-        ++at;
-    }
-    while (at != end && *at != '\r' && *at != '\n') ++at;
-    return at;
-}
-
-// The lines of a text, each ended by CR, CR LF or LF; the last one may lack its end.
-class LineCursor {
-  public:
-    explicit LineCursor(std::string_view text) : position_(text.data()), end_(text.data() + text.size()) {}
-
-    bool Next(std::string_view& line) {
-        if (position_ == end_) return false;
-        const char* const lineEnd = FindLineEnd(position_, end_);
-        line = {position_, static_cast<std::size_t>(lineEnd - position_)};
-        ++number_;
-        position_ = lineEnd;
-        if (end_ - lineEnd >= 2 && lineEnd[0] == '\r' && lineEnd[1] == '\n') ++position_;
-        if (position_ != end_) ++position_;
-        return true;
-    }
-
-    std::size_t Number() const { return number_; }  // of the line taken last, from 1
-
-  private:
-    const char* position_;
-    const char* end_;
-    std::size_t number_ = 0;
-};
 
 // The first `Width` columns of a line, a shorter one padded with blanks.
 template <std::size_t Width>

@@ -4,7 +4,9 @@
 #include <cstdint>
 #include <utility>
 
+#include "toolkit/characters.h"
 #include "toolkit/folding.h"
+#include "toolkit/lines.h"
 
 namespace tarvex {
 
@@ -38,14 +40,14 @@ class TextBuilder {
 
     void Unit(char32_t unit) {
         if (unit >= 0xDC00 && unit <= 0xDFFF && high_ != 0) {
-            Encode(0x10000 + ((std::exchange(high_, 0) - 0xD800) << 10) + (unit - 0xDC00));
+            AppendUtf8(text_, 0x10000 + ((std::exchange(high_, 0) - 0xD800) << 10) + (unit - 0xDC00));
             return;
         }
         EndPair();
         if (unit >= 0xD800 && unit <= 0xDBFF) {
             high_ = unit;
         } else {
-            Encode(unit >= 0xDC00 && unit <= 0xDFFF ? Replacement : unit);
+            AppendUtf8(text_, unit >= 0xDC00 && unit <= 0xDFFF ? Replacement : unit);
         }
     }
 
@@ -56,18 +58,7 @@ class TextBuilder {
 
   private:
     void EndPair() {
-        if (std::exchange(high_, 0) != 0) Encode(Replacement);
-    }
-
-    void Encode(char32_t c) {
-        if (c < 0x80) {
-            text_ += static_cast<char>(c);
-            return;
-        }
-        const int trailing = c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
-        constexpr unsigned leads[] = {0, 0xC0, 0xE0, 0xF0};
-        text_ += static_cast<char>(leads[trailing] | (c >> (6 * trailing)));
-        for (int i = trailing - 1; i >= 0; --i) text_ += static_cast<char>(0x80 | ((c >> (6 * i)) & 0x3F));
+        if (std::exchange(high_, 0) != 0) AppendUtf8(text_, Replacement);
     }
 
     std::string text_;
@@ -112,26 +103,8 @@ std::optional<std::string> TakeText(std::string_view& rest, char end) {
     return std::nullopt;
 }
 
-// The text line by line, without line ends.
-class Lines {
-  public:
-    explicit Lines(std::string_view text) : text_(text) {}
-
-    bool Next(std::string_view& line) {
-        if (text_.empty()) return false;
-        const auto end = text_.find('\n');
-        line = text_.substr(0, end);
-        text_.remove_prefix(end == std::string_view::npos ? text_.size() : end + 1);
-        if (line.ends_with('\r')) line.remove_suffix(1);
-        return true;
-    }
-
-  private:
-    std::string_view text_;
-};
-
 // The bytes of a hex list, which runs over the lines that end in a backslash.
-std::string HexBytes(std::string_view rest, Lines& lines) {
+std::string HexBytes(std::string_view rest, LineCursor& lines) {
     std::string bytes;
     while (true) {
         const auto digit = rest.find_first_not_of(" ,");
@@ -161,7 +134,7 @@ std::string Terminated(std::string text) {
     return text;
 }
 
-std::optional<std::string> ValueBytes(std::string_view rest, Lines& lines) {
+std::optional<std::string> ValueBytes(std::string_view rest, LineCursor& lines) {
     constexpr unsigned text = 1;
     constexpr unsigned textWithVariables = 2;
 
@@ -191,7 +164,7 @@ std::optional<std::string> ValueBytes(std::string_view rest, Lines& lines) {
     return Terminated(std::move(*value));
 }
 
-WineKeyValues KeyValues(Lines& lines) {
+WineKeyValues KeyValues(LineCursor& lines) {
     WineKeyValues values;
     std::string_view line;
     while (lines.Next(line) && !line.starts_with('[')) {
@@ -212,7 +185,7 @@ WineKeyValues KeyValues(Lines& lines) {
 std::optional<WineKeyValues> FindWineKey(std::string_view text, std::string_view path) {
     if (!text.starts_with("WINE REGISTRY Version 2")) return std::nullopt;
     const std::string wanted = Folded(path);
-    Lines lines(text);
+    LineCursor lines(text);
     std::string_view line;
     while (lines.Next(line)) {
         if (!TakeIfThere(line, "[")) continue;
