@@ -4,6 +4,7 @@
 
 #include "desktop/native_form.h"
 #include "desktop/native_text.h"
+#include "desktop/theme.h"
 #include "desktop/window_system.h"
 #include "toolkit/display_text.h"
 
@@ -21,9 +22,15 @@ void ShowCaption(wxControl& widget, const CaptionedControl& control) {
 }  // namespace
 
 LabelBinder::LabelBinder(NativeForm& window, Label& label, std::vector<wxStaticText*> widgets)
-    : Binder(window, label, *widgets.front()), label_(label), widgets_(std::move(widgets)) {}
+    : Binder(window, label, *widgets.front()), label_(label), widgets_(std::move(widgets)) {
+    Widget().Bind(wxEVT_SYS_COLOUR_CHANGED, [this](wxSysColourChangedEvent& event) {
+        event.Skip();
+        PutInk();
+    });
+}
 
 std::vector<wxString> LabelBinder::Pieces() const {
+    if (keepsBlanks_) return {Shown(label_.Caption())};
     if (widgets_.size() == 1) return {Shown(PlainCaption(label_.Caption()))};
     std::vector<wxString> pieces;
     std::string_view rest = label_.Caption();
@@ -48,12 +55,18 @@ void LabelBinder::ToWidget() {
         widgets_[i]->SetLabelText(piece);
         Window().LayOutAgain();
     }
+    if (std::exchange(ink_, label_.ForeColor()) != label_.ForeColor()) PutInk();
     NameForAccess(Widget(), label_.Name(), ShownLines(label_.Caption()));
+}
+
+void LabelBinder::PutInk() {
+    for (wxStaticText* widget : widgets_) widget->SetForegroundColour(LabelInk(ink_));
 }
 
 void LabelBinder::PressesButton(Button& button) {
     Widget().Bind(wxEVT_LEFT_UP, [this, &button](wxMouseEvent& event) {
         event.Skip();
+        if (Window().IsSecondClick() && !button.Repeats()) return;
         if (label_.Enabled()) Post([&button](UserDoor& door) { return door.Press(button); });
     });
 }
@@ -62,6 +75,11 @@ ButtonBinder::ButtonBinder(NativeForm& window, Button& button, wxAnyButton& widg
     : Binder(window, button, widget, spoken), button_(button), widget_(widget) {
     widget.Bind(wxEVT_BUTTON,
                 [this](wxCommandEvent&) { Post([this](UserDoor& door) { return door.Press(button_); }); });
+    const auto click = [this](wxMouseEvent& event) {
+        if (!Window().IsSecondClick() || button_.Repeats()) event.Skip();
+    };
+    widget.Bind(wxEVT_LEFT_DOWN, click);
+    widget.Bind(wxEVT_LEFT_DCLICK, click);
 }
 
 void ButtonBinder::ToWidget() {

@@ -18,14 +18,20 @@ class LabelBinder : public Binder {
   public:
     LabelBinder(NativeForm& window, Label& label, std::vector<wxStaticText*> widgets);
     void ToWidget() override;
+    wxStaticText* Text() const { return widgets_.front(); }
+    // The caption is shown with all its blanks, which otherwise only place it.
+    void KeepBlanks() { keepsBlanks_ = true; }
     // A click on the label presses the button that it stands beside.
     void PressesButton(Button& button);
 
   private:
     std::vector<wxString> Pieces() const;
+    void PutInk();
 
     Label& label_;
     std::vector<wxStaticText*> widgets_;
+    bool keepsBlanks_ = false;
+    Colour ink_ = Black;
 };
 
 class ButtonBinder final : public Binder {

@@ -33,6 +33,8 @@ class Binder {
     virtual void Arrive();
     // Takes all that the control shows for the user's to overwrite.
     virtual void SelectAll() {}
+    // Goes to the end of what the control shows, for the user to go on.
+    virtual void GoToEnd() {}
 
   protected:
     NativeForm& Window() const { return window_; }

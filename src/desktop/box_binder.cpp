@@ -11,6 +11,14 @@ namespace tarvex {
 TextBoxBinder::TextBoxBinder(NativeForm& window, TextBox& box, wxTextCtrl& widget, const wxString& spoken)
     : Binder(window, box, widget, spoken), box_(box), widget_(widget) {
     widget.Bind(wxEVT_TEXT, [this](wxCommandEvent&) { ToDoor(); });
+    widget.Bind(wxEVT_LEFT_UP, [this](wxMouseEvent& event) {
+        event.Skip();
+        PutCaretBehindWords();
+    });
+    widget.Bind(wxEVT_KEY_UP, [this](wxKeyEvent& event) {
+        event.Skip();
+        if (event.GetKeyCode() == WXK_END) PutCaretBehindWords();
+    });
     widget.Bind(wxEVT_SYS_COLOUR_CHANGED, [this](wxSysColourChangedEvent& event) {
         event.Skip();
         PutBackground();
@@ -39,6 +47,14 @@ void TextBoxBinder::PutBackground() {
     widget_.Refresh();
 }
 
+long TextBoxBinder::EndOfWords() const {
+    return static_cast<long>(widget_.GetValue().Trim().length());
+}
+
+void TextBoxBinder::PutCaretBehindWords() {
+    if (!widget_.HasSelection() && widget_.GetInsertionPoint() > EndOfWords()) GoToEnd();
+}
+
 // The caret keeps its distance from the end where what stood behind it is still there, so that a refused
 // character leaves it where it was typed. A box that the user is not in shows its text from the beginning:
 // the blanks at its end may be more than it has room for.
@@ -49,9 +65,15 @@ void TextBoxBinder::PutText(const wxString& text) {
         return;
     }
     const auto caret = static_cast<std::size_t>(std::max(0L, widget_.GetInsertionPoint()));
-    const wxString behind = widget_.GetValue().Mid(caret);
+    const wxString before = widget_.GetValue();
+    const wxString behind = before.Mid(caret);
     widget_.ChangeValue(text);
-    const std::size_t place = text.EndsWith(behind) ? text.length() - behind.length() : text.length();
+    std::size_t place = text.length();
+    if (text.EndsWith(behind)) {
+        place -= behind.length();
+    } else if (text.StartsWith(before.Left(caret))) {
+        place = caret;
+    }
     widget_.SetInsertionPoint(static_cast<long>(place));
 }
 

@@ -12,10 +12,14 @@ class TextBoxBinder final : public Binder {
     TextBoxBinder(NativeForm& window, TextBox& box, wxTextCtrl& widget, const wxString& spoken);
     void ToWidget() override;
     void SelectAll() override { widget_.SelectAll(); }
+    void GoToEnd() override { widget_.SetInsertionPoint(EndOfWords()); }
 
   private:
     void ToDoor();
     void PutText(const wxString& text);
+    // Behind the last character that can be seen.
+    long EndOfWords() const;
+    void PutCaretBehindWords();
     void PutBackground();
 
     TextBox& box_;

@@ -47,11 +47,15 @@ NativeForm& Desktop::MakeWindow(Form& form) {
     layout.layOut(form, *window);
     window->Flush();
     FitToContent(*window, layout);
+    const auto chosen = sizes_.find(form.Name());
+    if (chosen != sizes_.end()) FitToChoice(*window, chosen->second);
     if (anchor != nullptr) {
         PlaceBeside(*window, *anchor, taken);
     } else {
         PlaceInMiddle(*window, layout);
     }
+    window->KeepSize();
+    if (chosen != sizes_.end() && chosen->second.maximized) window->Maximize();
     return *window;
 }
 
@@ -60,7 +64,7 @@ void Desktop::FormShown(Form& form) {
     if (window == nullptr) window = &MakeWindow(form);
     window->Flush();
     const Mute mute(*this);
-    if (!window->IsShown()) guard_.CameUp(*window);
+    if (!window->IsShown()) guard_.WindowsChanged();
     BringToFront(*window);
     window->Show();
 }
@@ -69,6 +73,7 @@ void Desktop::FormHidden(Form& form) {
     NativeForm* window = WindowOf(form);
     if (window == nullptr) return;
     const Mute mute(*this);
+    if (window->IsShown()) guard_.WindowsChanged();
     window->Hide();
     if (front_ == window) front_ = nullptr;
     if (awaited_ == window) awaited_ = nullptr;
@@ -78,6 +83,7 @@ void Desktop::FormUnloaded(Form& form) {
     acts_.Forget(form);
     NativeForm* window = WindowOf(form);
     if (window == nullptr) return;
+    if (window->SizedByUser() || sizes_.contains(form.Name())) sizes_[form.Name()] = window->SizeNow();
     FormHidden(form);
     window->Detach();
     windows_.erase(&form);
@@ -101,7 +107,7 @@ void Desktop::Drain() {
     draining_ = true;
     while (auto act = acts_.Next()) {
         messageShown_ = false;
-        movedByKey_ = false;
+        arrival_ = Arrival::Led;
         const bool carried = act->carry();
         if (program_.host.Stopped()) {
             End();
@@ -110,7 +116,7 @@ void Desktop::Drain() {
         if (!carried || messageShown_) DropActs();
         if (!acts_.Empty()) continue;
         FlushAll();
-        SettleFocus(movedByKey_);
+        SettleFocus();
     }
     draining_ = false;
     DestroyDetached();
@@ -125,7 +131,7 @@ void Desktop::DropActs() {
     for (const auto& [form, window] : windows_) window->TouchAll();
 }
 
-void Desktop::SettleFocus(bool selectAll) {
+void Desktop::SettleFocus() {
     const Control* focus = FocusOfProgram();
     if (focus == nullptr) {
         for (const auto& [form, window] : windows_) window->ForgetFocus();
@@ -133,7 +139,7 @@ void Desktop::SettleFocus(bool selectAll) {
     }
     NativeForm* window = WindowOf(focus->Owner());
     if (window == nullptr || !window->IsShown()) return;
-    window->PutFocusOn(*focus, selectAll);
+    window->PutFocusOn(*focus, arrival_);
     if (window != front_) BringToFront(*window);
 }
 
@@ -161,6 +167,7 @@ void Desktop::CloseByUser(const Form& form) {
 
 wxWindow* Desktop::BeforeMessage() {
     FlushAll();
+    guard_.WindowsChanged();
     const Control* focus = FocusOfProgram();
     NativeForm* window = focus == nullptr ? nullptr : WindowOf(focus->Owner());
     if (window == nullptr && !program_.host.Visible().empty()) {
@@ -171,6 +178,7 @@ wxWindow* Desktop::BeforeMessage() {
 
 void Desktop::AfterMessage() {
     messageShown_ = true;
+    guard_.WindowsChanged();
     // The system may hand the front to any window now; the program's is brought back.
     front_ = nullptr;
 }

@@ -2,6 +2,7 @@
 
 #include <map>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "desktop/double_click_guard.h"
@@ -32,6 +33,8 @@ class Desktop final : public FormObserver {
 
     UserDoor& Door() { return program_.door; }
     Control* FocusOfProgram() { return program_.host.GetFocus().Current(); }
+    // Whether the click that is being handled is the second of a double click.
+    bool IsSecondClick() const { return guard_.IsSecondClick(); }
     void ActivatedByUser(NativeForm& window);
     void CloseByUser(const Form& form);
 
@@ -55,7 +58,7 @@ class Desktop final : public FormObserver {
     NativeForm& MakeWindow(Form& form);
     void Drain();
     void FlushAll();
-    void SettleFocus(bool selectAll);
+    void SettleFocus();
     void DropActs();
     void BringToFront(NativeForm& window);
     void DestroyDetached();
@@ -65,6 +68,7 @@ class Desktop final : public FormObserver {
     DoubleClickGuard guard_;
     ActQueue acts_;
     std::map<const Form*, NativeForm*> windows_;
+    std::map<std::string, ChosenSize> sizes_;  // that the user gave to windows, by the names of their forms
     std::vector<NativeForm*> detached_;
     NativeForm* front_ = nullptr;    // the window that was activated last
     NativeForm* awaited_ = nullptr;  // brought to the front by the program, activation not yet told
@@ -72,7 +76,7 @@ class Desktop final : public FormObserver {
     bool drainPosted_ = false;
     bool draining_ = false;
     bool messageShown_ = false;
-    bool movedByKey_ = false;
+    Arrival arrival_ = Arrival::Led;
 };
 
 }  // namespace tarvex

@@ -1,28 +1,39 @@
 #include "desktop/double_click_guard.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <utility>
 
-#include <wx/utils.h>
+#include <wx/settings.h>
+#include <wx/window.h>
 
 namespace tarvex {
 
 namespace {
 
-constexpr std::chrono::milliseconds LongestDoubleClick(500);
+constexpr int UsualDoubleClickMilliseconds = 500;
 constexpr int SteadyHandPixels = 5;
 
 }  // namespace
 
-void DoubleClickGuard::CameUp(const wxWindow& window) {
-    window_ = &window;
-    time_ = std::chrono::steady_clock::now();
-    place_ = wxGetMousePosition();
+DoubleClickGuard::Moment DoubleClickGuard::Now() {
+    return {std::chrono::steady_clock::now(), wxGetMousePosition()};
+}
+
+bool DoubleClickGuard::AreOneDoubleClick(const Moment& before, const Moment& after) {
+    const std::chrono::milliseconds longest(
+        std::max(UsualDoubleClickMilliseconds, wxSystemSettings::GetMetric(wxSYS_DCLICK_MSEC)));
+    const wxPoint away = after.place - before.place;
+    return after.time - before.time <= longest && std::abs(away.x) <= SteadyHandPixels &&
+           std::abs(away.y) <= SteadyHandPixels;
 }
 
 int DoubleClickGuard::FilterEvent(wxEvent& event) {
     const wxEventType type = event.GetEventType();
     if (type == wxEVT_LEFT_DOWN || type == wxEVT_LEFT_DCLICK) {
-        swallowing_ = IsStray(event);
+        const Moment now = Now();
+        second_ = AreOneDoubleClick(std::exchange(click_, now), now);
+        swallowing_ = AreOneDoubleClick(windows_, now);
         return swallowing_ ? Event_Processed : Event_Skip;
     }
     if (type == wxEVT_LEFT_UP && swallowing_) {
@@ -30,14 +41,6 @@ int DoubleClickGuard::FilterEvent(wxEvent& event) {
         return Event_Processed;
     }
     return Event_Skip;
-}
-
-bool DoubleClickGuard::IsStray(wxEvent& event) const {
-    auto* widget = wxDynamicCast(event.GetEventObject(), wxWindow);
-    if (widget == nullptr || wxGetTopLevelParent(widget) != window_) return false;
-    if (std::chrono::steady_clock::now() - time_ > LongestDoubleClick) return false;
-    const wxPoint away = wxGetMousePosition() - place_;
-    return std::abs(away.x) <= SteadyHandPixels && std::abs(away.y) <= SteadyHandPixels;
 }
 
 }  // namespace tarvex

@@ -5,12 +5,12 @@
 #include <wx/event.h>
 #include <wx/eventfilter.h>
 #include <wx/gdicmn.h>
-#include <wx/window.h>
 
 namespace tarvex {
 
-// Keeps the second click of a double click away from a window that the first one has brought up: one click is
-// all that the program's lists and buttons need, but many double-click them out of habit.
+// Knows the second click of a double click. One click is all that the program's buttons and lists need, but
+// many double-click them out of habit: where the first click has brought up a window, or has closed one, the
+// second is kept away from whatever window now lies under the mouse.
 class DoubleClickGuard final : public wxEventFilter {
   public:
     DoubleClickGuard() { wxEvtHandler::AddFilter(this); }
@@ -18,16 +18,26 @@ class DoubleClickGuard final : public wxEventFilter {
     DoubleClickGuard(const DoubleClickGuard&) = delete;
     DoubleClickGuard& operator=(const DoubleClickGuard&) = delete;
 
-    void CameUp(const wxWindow& window);
+    // A window of the program came up or went away.
+    void WindowsChanged() { windows_ = Now(); }
+    // Whether the click that is being handled is the second of a double click.
+    bool IsSecondClick() const { return second_; }
+
     int FilterEvent(wxEvent& event) override;
 
   private:
-    bool IsStray(wxEvent& event) const;
+    struct Moment {
+        std::chrono::steady_clock::time_point time;
+        wxPoint place;  // of the mouse, on the screen
+    };
 
-    const wxWindow* window_ = nullptr;  // that came up last; only compared, it may be gone
-    std::chrono::steady_clock::time_point time_;
-    wxPoint place_;            // of the mouse at that time, on the screen
-    bool swallowing_ = false;  // the button is down within a stray click
+    static Moment Now();
+    static bool AreOneDoubleClick(const Moment& before, const Moment& after);
+
+    Moment windows_;  // the last change of the windows
+    Moment click_;    // the last click
+    bool second_ = false;
+    bool swallowing_ = false;  // the button is down within a click that is kept away
 };
 
 }  // namespace tarvex

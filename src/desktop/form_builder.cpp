@@ -41,23 +41,28 @@ wxSize FormBuilder::SizeOf(wxSize characters) const {
 }
 
 wxStaticText* FormBuilder::Put(Label& label, LabelStyle style) {
-    return PutText(label, style, 0);
+    return PutText(label, style, 0).Text();
 }
 
 wxStaticText* FormBuilder::PutShort(Label& label, LabelStyle style) {
-    wxStaticText* widget = PutText(label, style, wxST_ELLIPSIZE_MIDDLE | wxST_NO_AUTORESIZE);
+    wxStaticText* widget = PutText(label, style, wxST_ELLIPSIZE_MIDDLE | wxST_NO_AUTORESIZE).Text();
     widget->SetMinSize({1, widget->GetCharHeight() + 2});
     return widget;
 }
 
-wxStaticText* FormBuilder::PutText(Label& label, LabelStyle style, long flags) {
+wxStaticText* FormBuilder::PutFields(Label& label) {
+    LabelBinder& binder = PutText(label, LabelStyle::Plain, 0);
+    binder.KeepBlanks();
+    return binder.Text();
+}
+
+LabelBinder& FormBuilder::PutText(Label& label, LabelStyle style, long flags) {
     auto* widget =
         new wxStaticText(ParentOf(label), wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize, flags);
     wxFont font = widget->GetFont();
     if (style == LabelStyle::Heading) font.Scale(1.5f);
     if (style != LabelStyle::Plain) widget->SetFont(font.Bold());
-    window_.Bind<LabelBinder>(label, std::vector{widget});
-    return widget;
+    return window_.Bind<LabelBinder>(label, std::vector{widget});
 }
 
 wxTextCtrl* FormBuilder::Put(TextBox& box, int characters, const wxString& spoken) {

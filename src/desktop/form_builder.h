@@ -52,6 +52,8 @@ class FormBuilder {
     wxStaticText* Put(Label& label, LabelStyle style = LabelStyle::Plain);
     // A label of any length: what its place has no room for is left out.
     wxStaticText* PutShort(Label& label, LabelStyle style = LabelStyle::Plain);
+    // A label put together of fields, which is shown with all their blanks.
+    wxStaticText* PutFields(Label& label);
     // `characters` is the width, `spoken` what a screen reader calls the box.
     wxTextCtrl* Put(TextBox& box, int characters, const wxString& spoken);
     wxAnyButton* Put(Button& button);
@@ -86,7 +88,7 @@ class FormBuilder {
     wxBoxSizer* Content();
 
   private:
-    wxStaticText* PutText(Label& label, LabelStyle style, long flags);
+    LabelBinder& PutText(Label& label, LabelStyle style, long flags);
     wxBitmapButton* PutGlyph(Button& button, Glyph glyph, const wxString& spoken);
     // Fills the page of a content of tabs with its widget.
     void FillPage(const Control& content, wxWindow* widget);

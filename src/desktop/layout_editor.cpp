@@ -6,6 +6,7 @@
 
 #include "desktop/form_builder.h"
 #include "desktop/layouts.h"
+#include "desktop/native_form.h"
 #include "editor/modify_procedure.h"
 
 namespace tarvex {
@@ -16,7 +17,7 @@ namespace {
 class EditorLayout {
   public:
     EditorLayout(ModifyProcedure& editor, NativeForm& window)
-        : editor_(editor), put_(window), gap_(put_.Gap()) {}
+        : editor_(editor), window_(window), put_(window), gap_(put_.Gap()) {}
 
     void LayOut();
 
@@ -37,6 +38,7 @@ class EditorLayout {
     wxStaticText* RoomFor(Label& label, const wxString& caption);
 
     ModifyProcedure& editor_;
+    NativeForm& window_;
     FormBuilder put_;
     int gap_;
     wxSizerFlags middle_ = wxSizerFlags().CentreVertical();
@@ -112,9 +114,9 @@ wxSizer* EditorLayout::WaypointBoxes() {
 wxSizer* EditorLayout::Restriction() {
     wxSizer* box = put_.Put(editor_.Frame4, wxVERTICAL);
     auto* grid = new wxFlexGridSizer(3, gap_ / 2, 3 * gap_);
-    for (OptionButton* option :
-         {&editor_.NoRestrictionOption, &editor_.AtOption, &editor_.AtAboveAtBelowOption,
-          &editor_.AtBelowOption, &editor_.AtAboveOption}) {
+    // Column by column in the order in which the arrow keys go.
+    for (OptionButton* option : {&editor_.NoRestrictionOption, &editor_.AtBelowOption,
+                                 &editor_.AtAboveAtBelowOption, &editor_.AtOption, &editor_.AtAboveOption}) {
         grid->Add(put_.Put(*option), middle_);
     }
     box->Add(grid, wxSizerFlags().Border(wxALL, gap_));
@@ -151,8 +153,13 @@ wxSizer* EditorLayout::List() {
     moves->Add(put_.Put(editor_.MoveUp), wxSizerFlags().Expand());
     moves->Add(put_.Put(editor_.MoveDown), wxSizerFlags().Expand());
 
+    auto* heading = new wxBoxSizer(wxHORIZONTAL);
+    heading->Add(put_.Put(editor_.Label6, LabelStyle::Section));
+    heading->AddStretchSpacer();
+    heading->Add(put_.Put(editor_.RowsLabel));
+
     auto* column = new wxBoxSizer(wxVERTICAL);
-    column->Add(put_.Put(editor_.Label6, LabelStyle::Section));
+    column->Add(heading, wxSizerFlags().Expand());
     column->AddSpacer(gap_);
     column->Add(put_.Put(editor_.WaypointList, {24, 5}, "List of Waypoints"), wxSizerFlags(1).Expand());
     column->AddSpacer(gap_);
@@ -169,7 +176,7 @@ wxSizer* EditorLayout::WaysOut() {
 
 void EditorLayout::LayOut() {
     auto* upper = new wxBoxSizer(wxHORIZONTAL);
-    upper->Add(WaypointBoxes(), wxSizerFlags(1));
+    upper->Add(WaypointBoxes());
     upper->Add(put_.Line(wxVERTICAL), wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT, 2 * gap_));
     upper->Add(Commands());
 
@@ -178,9 +185,9 @@ void EditorLayout::LayOut() {
     right->AddStretchSpacer();
     right->Add(WaysOut(), wxSizerFlags().Right());
     auto* lower = new wxBoxSizer(wxHORIZONTAL);
-    lower->Add(List(), wxSizerFlags(2).Expand());
+    lower->Add(List(), wxSizerFlags().Expand());
     lower->AddSpacer(2 * gap_);
-    lower->Add(right, wxSizerFlags(3).Expand());
+    lower->Add(right, wxSizerFlags(1).Expand());
 
     auto* page = put_.Content();
     page->Add(put_.Put(editor_.ActionLabel, LabelStyle::Heading));
@@ -188,6 +195,7 @@ void EditorLayout::LayOut() {
     page->Add(Names(), wxSizerFlags().Expand());
     page->Add(put_.Line(wxHORIZONTAL), wxSizerFlags().Expand().Border(wxTOP | wxBOTTOM, 2 * gap_));
     page->Add(upper, wxSizerFlags().Expand());
+    window_.SetSpare(*upper);
     page->Add(put_.Line(wxHORIZONTAL), wxSizerFlags().Expand().Border(wxTOP | wxBOTTOM, 2 * gap_));
     page->Add(lower, wxSizerFlags(1).Expand());
 }

@@ -23,6 +23,7 @@ void LayOutFindFolder(Form& form, NativeForm& window) {
     inner->Add(put.Put(screen.Dir1, {34, 6}, "Folder"), wxSizerFlags(1).Expand());
     inner->AddSpacer(gap);
     inner->Add(put.PutShort(screen.DataHintLabel), wxSizerFlags().Expand());
+    inner->Add(put.Put(screen.WayBackLabel), wxSizerFlags().Border(wxTOP, gap / 3));
     inner->AddSpacer(gap);
     wxAnyButton* done = put.Put(screen.FindDoneCommand);
     done->SetMinSize({12 * gap, -1});

@@ -31,14 +31,14 @@ void LayOutFindWaypoint(Form& form, NativeForm& window) {
     wxSizer* position = put.Put(search.Frame1, wxVERTICAL);
     put.StandIn(put.Inside(search.Frame1));
     const auto steady = wxSizerFlags().Expand().ReserveSpaceEvenIfHidden();
-    position->Add(put.Put(search.LatText), steady);
+    position->Add(put.PutFields(search.LatText), steady);
     position->AddSpacer(gap / 2);
-    position->Add(put.Put(search.LongText), steady);
+    position->Add(put.PutFields(search.LongText), steady);
     if (search.Frame1.Height() >= FrequencyBottom) {
         auto* frequency = new wxBoxSizer(wxHORIZONTAL);
         frequency->Add(put.Put(search.FreqLabel), wxSizerFlags().ReserveSpaceEvenIfHidden());
         frequency->AddSpacer(gap);
-        frequency->Add(put.Put(search.FreqText), wxSizerFlags(1).ReserveSpaceEvenIfHidden());
+        frequency->Add(put.PutFields(search.FreqText), wxSizerFlags(1).ReserveSpaceEvenIfHidden());
         position->AddSpacer(gap / 2);
         position->Add(frequency, wxSizerFlags().Expand());
     }

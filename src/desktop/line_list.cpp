@@ -88,4 +88,9 @@ void LineList::SelectLine(int line) {
     EnsureVisible(item);
 }
 
+void LineList::GoToLine(int line) {
+    SetCurrentItem(model_->GetItem(static_cast<unsigned>(line)));
+    UnselectAll();
+}
+
 }  // namespace tarvex

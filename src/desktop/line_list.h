@@ -30,6 +30,7 @@ class LineList final : public wxDataViewCtrl {
     int Line() const { return LineOf(GetSelection()); }
     int LineOf(const wxDataViewItem& item) const;
     void SelectLine(int line);  // and brings it into sight
+    void GoToLine(int line);    // the keys lead on from there; no line is selected
 
   private:
     class Model;

@@ -12,27 +12,49 @@ namespace tarvex {
 
 ListBoxBinder::ListBoxBinder(NativeForm& window, ListBox& list, wxListBox& widget, const wxString& spoken)
     : Binder(window, list, widget, spoken), list_(list), widget_(widget) {
-    widget.Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { ToDoor(); });
+    widget.Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { ToDoor(false); });
+    widget.Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { ToDoor(true); });
 }
 
-void ListBoxBinder::ToDoor() {
+void ListBoxBinder::ToDoor(bool open) {
     const int line = widget_.GetSelection();
     if (line == wxNOT_FOUND) return;
-    Post([this, line](UserDoor& door) { return line < list_.ListCount() && door.PickLine(list_, line); });
+    Post([this, line, open](UserDoor& door) {
+        if (line >= list_.ListCount()) return false;
+        return open ? door.OpenLine(list_, line) : door.PickLine(list_, line);
+    });
 }
 
 void ListBoxBinder::ToWidget() {
-    if (shown_ != list_.Lines()) {
-        shown_ = list_.Lines();
-        wxArrayString lines;
-        for (const std::string& line : shown_) lines.Add(Shown(line));
-        widget_.Set(lines);
-    }
-    if (widget_.GetSelection() != list_.ListIndex()) {
-        widget_.SetSelection(list_.ListIndex());
-        if (list_.ListIndex() != ListBox::NoSelection) widget_.EnsureVisible(list_.ListIndex());
+    const bool exchanged = shown_ != list_.Lines();
+    if (exchanged) ShowLines();
+    const bool selects = widget_.GetSelection() != list_.ListIndex();
+    if (selects) widget_.SetSelection(list_.ListIndex());
+    if ((exchanged || selects) && list_.NewestLine() != ListBox::NoSelection) {
+        widget_.EnsureVisible(list_.NewestLine());
     }
     Binder::ToWidget();
+}
+
+// Exchanges only the lines that differ, so that the list stays as the user has scrolled it.
+void ListBoxBinder::ShowLines() {
+    const auto& lines = list_.Lines();
+    const auto common = std::min(shown_.size(), lines.size());
+    std::size_t head = 0;
+    while (head < common && shown_[head] == lines[head]) ++head;
+    std::size_t tail = 0;
+    while (tail < common - head && shown_.rbegin()[tail] == lines.rbegin()[tail]) ++tail;
+
+    wxArrayString come;
+    for (std::size_t i = head; i < lines.size() - tail; ++i) come.Add(Shown(lines[i]));
+    if (head + tail == 0) {
+        widget_.Set(come);
+    } else {
+        for (std::size_t i = shown_.size() - tail; i > head; --i)
+            widget_.Delete(static_cast<unsigned>(i - 1));
+        if (!come.empty()) widget_.InsertItems(come, static_cast<unsigned>(head));
+    }
+    shown_ = lines;
 }
 
 ColumnListBinder::ColumnListBinder(NativeForm& window, ColumnList& list, LineList& widget,
@@ -133,7 +155,12 @@ void FolderListBinder::ToWidget() {
                 return lines_[line].index <= FolderList::OpenFolder ? opened_ : closed_;
             });
     }
-    widget_.SelectLine(list_.ListIndex() - list_.FirstIndex());
+    const int line = list_.ListIndex() - list_.FirstIndex();
+    if (list_.ShowsChosen()) {
+        widget_.SelectLine(line);
+    } else {
+        widget_.GoToLine(line);
+    }
     Binder::ToWidget();
 }
 
@@ -142,6 +169,19 @@ FileListBinder::FileListBinder(NativeForm& window, FileList& list, LineList& wid
     ActivateByClick(widget);
     widget.Bind(wxEVT_DATAVIEW_ITEM_ACTIVATED,
                 [this](wxDataViewEvent& event) { ToDoor(widget_.LineOf(event.GetItem())); });
+    widget.GetMainWindow()->Bind(wxEVT_CHAR, &FileListBinder::OnChar, this);
+}
+
+void FileListBinder::OnChar(wxKeyEvent& event) {
+    const wxUniChar typed = event.GetUnicodeKey();
+    const bool down = event.GetKeyCode() == WXK_DOWN || event.GetKeyCode() == WXK_NUMPAD_DOWN;
+    if (down && widget_.Line() == LineList::NoLine && !shown_.empty()) {
+        widget_.SelectLine(0);
+    } else if (typed > ' ' && typed != WXK_DELETE && (event.GetModifiers() & ~wxMOD_SHIFT) == 0) {
+        Window().PostTyping(Typed({}, typed));
+    } else {
+        event.Skip();
+    }
 }
 
 void FileListBinder::ToDoor(int line) {

@@ -20,7 +20,8 @@ class ListBoxBinder final : public Binder {
     void ToWidget() override;
 
   private:
-    void ToDoor();
+    void ToDoor(bool open);
+    void ShowLines();
 
     ListBox& list_;
     wxListBox& widget_;
@@ -85,6 +86,7 @@ class FileListBinder final : public Binder {
 
   private:
     void ToDoor(int line);
+    void OnChar(wxKeyEvent& event);
 
     FileList& list_;
     LineList& widget_;

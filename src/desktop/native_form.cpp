@@ -30,6 +30,10 @@ constexpr std::array<KeyOfShortcut, 6> ShortcutKeys = {{
     {WXK_NUMPAD_ENTER, wxMOD_NONE, ShortcutKey::Enter},
 }};
 
+// A tool goes and comes with its owner, so that it can't be put away, or spread out, on its own.
+constexpr long ToolStyle = (wxDEFAULT_FRAME_STYLE & ~(wxMINIMIZE_BOX | wxMAXIMIZE_BOX)) |
+                           wxFRAME_FLOAT_ON_PARENT | wxFRAME_NO_TASKBAR;
+
 // The shortcut that the pressed key is on the form as the focus stands.
 std::optional<ShortcutKey> ShortcutOf(const wxKeyEvent& event, Form& form, const Control* focus) {
     for (const auto& known : ShortcutKeys) {
@@ -42,15 +46,35 @@ std::optional<ShortcutKey> ShortcutOf(const wxKeyEvent& event, Form& form, const
     return std::nullopt;
 }
 
+// Whether the key leads forward or back among the options of a frame.
+std::optional<bool> ArrowForward(const wxKeyEvent& event) {
+    if (event.GetModifiers() != wxMOD_NONE) return std::nullopt;
+    switch (event.GetKeyCode()) {
+        case WXK_DOWN:
+        case WXK_NUMPAD_DOWN:
+        case WXK_RIGHT:
+        case WXK_NUMPAD_RIGHT:
+            return true;
+        case WXK_UP:
+        case WXK_NUMPAD_UP:
+        case WXK_LEFT:
+        case WXK_NUMPAD_LEFT:
+            return false;
+        default:
+            return std::nullopt;
+    }
+}
+
 }  // namespace
 
 NativeForm::NativeForm(Desktop& desktop, Form& form, wxWindow* owner)
     : wxFrame(owner, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
-              owner == nullptr ? wxDEFAULT_FRAME_STYLE
-                               : wxDEFAULT_FRAME_STYLE | wxFRAME_FLOAT_ON_PARENT | wxFRAME_NO_TASKBAR),
+              owner == nullptr ? wxDEFAULT_FRAME_STYLE : ToolStyle),
       desktop_(desktop),
       form_(&form),
       page_(new wxPanel(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE)) {
+    // Keys and acts of a tool are nothing to its owner.
+    SetExtraStyle(GetExtraStyle() | wxWS_EX_BLOCK_EVENTS);
     NameForAccess(*this, form.Name(), {});
     SetIcons(ProgramIcons());
     ShowCaption();
@@ -95,7 +119,21 @@ void NativeForm::Flush() {
     if (std::exchange(layOut_, false)) page_->Layout();
 }
 
-void NativeForm::PutFocusOn(const Control& control, bool selectAll) {
+wxRect NativeForm::Spare() const {
+    wxRect part = page_->GetClientRect();
+    if (spare_ != nullptr) part = {spare_->GetPosition(), spare_->GetSize()};
+    return {page_->ClientToScreen(part.GetTopLeft()), part.GetSize()};
+}
+
+bool NativeForm::SizedByUser() const {
+    return IsMaximized() || GetClientSize() != ownSize_;
+}
+
+ChosenSize NativeForm::SizeNow() const {
+    return {IsMaximized() ? ownSize_ : GetClientSize(), IsMaximized()};
+}
+
+void NativeForm::PutFocusOn(const Control& control, Arrival how) {
     Binder* binder = BinderOf(control);
     if (binder == nullptr) return;
     const Desktop::Mute mute(desktop_);
@@ -105,7 +143,12 @@ void NativeForm::PutFocusOn(const Control& control, bool selectAll) {
         // A list may select a line of its own when it gets the focus.
         binder->ToWidget();
     }
-    if (selectAll) binder->SelectAll();
+    if (how == Arrival::Tab) binder->SelectAll();
+    if (how == Arrival::Typing) binder->GoToEnd();
+}
+
+bool NativeForm::IsSecondClick() const {
+    return desktop_.IsSecondClick();
 }
 
 void NativeForm::Post(NativeAct::Kind kind, Control* control, std::function<bool(UserDoor&)> carry) {
@@ -114,12 +157,19 @@ void NativeForm::Post(NativeAct::Kind kind, Control* control, std::function<bool
         {kind, form_, control, [this, carry = std::move(carry)] { return carry(desktop_.Door()); }});
 }
 
+void NativeForm::PostTyping(const std::string& characters) {
+    Post(NativeAct::Kind::Act, nullptr, [this, characters](UserDoor& door) {
+        desktop_.arrival_ = Arrival::Typing;
+        return door.TypeBeside(*form_, characters);
+    });
+}
+
 void NativeForm::OnKey(wxKeyEvent& event) {
     if (form_ == nullptr) return;
     if (event.GetKeyCode() == WXK_TAB && (event.GetModifiers() & ~wxMOD_SHIFT) == 0) {
         const bool forward = !event.ShiftDown();
         Post(NativeAct::Kind::Act, nullptr, [this, forward](UserDoor& door) {
-            desktop_.movedByKey_ = true;
+            desktop_.arrival_ = Arrival::Tab;
             return door.Tab(*form_, forward);
         });
         return;
@@ -127,6 +177,13 @@ void NativeForm::OnKey(wxKeyEvent& event) {
     if (event.GetKeyCode() == WXK_ESCAPE && event.GetModifiers() == wxMOD_NONE &&
         form_->WayOut() != nullptr) {
         Post(NativeAct::Kind::Act, nullptr, [this](UserDoor& door) { return door.Escape(*form_); });
+        return;
+    }
+    auto* option = dynamic_cast<OptionButton*>(desktop_.FocusOfProgram());
+    const auto forward = ArrowForward(event);
+    if (option != nullptr && &option->Owner() == form_ && forward) {
+        Post(NativeAct::Kind::Act, nullptr,
+             [option, forward](UserDoor& door) { return door.Arrow(*option, *forward); });
         return;
     }
     if (const auto key = ShortcutOf(event, *form_, desktop_.FocusOfProgram())) {

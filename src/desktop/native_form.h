@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 #include <set>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -10,11 +11,19 @@
 #include <wx/panel.h>
 
 #include "desktop/binder.h"
+#include "desktop/placement.h"
 #include "toolkit/form.h"
 
 namespace tarvex {
 
 class Desktop;
+
+// How the user came to the control that has the focus after an act.
+enum class Arrival {
+    Led,     // by a click, or by the program
+    Tab,     // what the control shows is selected
+    Typing,  // typing goes on behind what it shows
+};
 
 // The native window of one form. It outlives its form by a little: from Detach on it touches nothing of the
 // program any more.
@@ -43,15 +52,26 @@ class NativeForm final : public wxFrame {
     // The control has changed, or its widget by the user's hand: they are brought in line at the next Flush.
     void Touch(Binder& binder) { touched_.insert(&binder); }
     void TouchAll();
+    // The part of the page that a tool may lie over; without one, all of it.
+    void SetSpare(const wxSizer& part) { spare_ = &part; }
+    wxRect Spare() const;  // on the screen
+    // The size that the program gave the window is the one that it has now.
+    void KeepSize() { ownSize_ = GetClientSize(); }
+    bool SizedByUser() const;  // since then
+    ChosenSize SizeNow() const;
+
     // What stands in the window has changed its size.
     void LayOutAgain() { layOut_ = true; }
     void Flush();
 
     // Puts the focus within the window on the widget of the control.
-    void PutFocusOn(const Control& control, bool selectAll);
+    void PutFocusOn(const Control& control, Arrival how);
     // No control has the focus: whichever the user goes to is a new one.
     void ForgetFocus() { arrivedAt_ = nullptr; }
 
+    bool IsSecondClick() const;
+    // The user typed beside the boxes.
+    void PostTyping(const std::string& characters);
     // Something that the user did. `control` is null when it concerns the whole form.
     void Post(NativeAct::Kind kind, Control* control, std::function<bool(UserDoor&)> carry);
 
@@ -69,6 +89,8 @@ class NativeForm final : public wxFrame {
     std::set<Binder*> touched_;
     const Control* arrivedAt_ = nullptr;  // whose widget has the focus within the window
     bool layOut_ = false;
+    const wxSizer* spare_ = nullptr;
+    wxSize ownSize_;
 };
 
 }  // namespace tarvex

@@ -1,12 +1,14 @@
 #include "desktop/placement.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include <wx/display.h>
 #include <wx/sizer.h>
 
 #include "desktop/layouts.h"
 #include "desktop/native_form.h"
+#include "toolkit/tool_place.h"
 
 namespace tarvex {
 
@@ -22,10 +24,8 @@ wxRect ScreenOf(const wxWindow& window) {
     return wxDisplay(number == wxNOT_FOUND ? 0u : static_cast<unsigned>(number)).GetClientArea();
 }
 
-bool IsFree(const wxRect& place, const wxRect& screen, const std::vector<wxRect>& taken) {
-    return screen.Contains(place) && std::none_of(taken.begin(), taken.end(), [&place](const wxRect& other) {
-               return other.Intersects(place);
-           });
+Area AreaOf(const wxRect& rect) {
+    return {rect.x, rect.y, rect.width, rect.height};
 }
 
 }  // namespace
@@ -41,6 +41,12 @@ void FitToContent(NativeForm& window, const ScreenLayout& layout) {
     window.SetSize(size);
 }
 
+void FitToChoice(NativeForm& window, const ChosenSize& choice) {
+    wxSize size = choice.client;
+    size.IncTo(window.GetSizer()->GetMinSize());
+    window.SetClientSize(size);
+}
+
 void PlaceInMiddle(NativeForm& window, const ScreenLayout& layout) {
     const wxRect screen = ScreenOf(window);
     const wxSize size = window.GetSize();
@@ -51,31 +57,14 @@ void PlaceInMiddle(NativeForm& window, const ScreenLayout& layout) {
 }
 
 void PlaceBeside(NativeForm& window, const NativeForm& anchor, const std::vector<wxRect>& taken) {
-    const wxRect screen = ScreenOf(anchor);
-    const wxRect other = anchor.GetRect();
-    const wxSize size = window.GetSize();
-    const int right = other.GetRight() + Gap;
-    const int left = other.GetLeft() - Gap - size.x;
-
-    std::vector<wxPoint> places;
-    for (const int x : {right, left}) {
-        places.emplace_back(x, other.GetTop());
-        for (const wxRect& rect : taken) places.emplace_back(x, rect.GetBottom() + Gap);
-    }
-    const auto found = std::find_if(places.begin(), places.end(), [&](const wxPoint& place) {
-        return IsFree({place, size}, screen, taken);
-    });
-    if (found != places.end()) {
-        window.SetPosition(*found);
-        return;
-    }
-    int x = std::min(right, screen.GetRight() - size.x);
-    const int y = std::min(other.GetBottom(), screen.GetBottom()) - size.y;
-    for (const wxRect& rect : taken) {
-        const int beyond = rect.GetLeft() - Gap - size.x;
-        if (rect.Intersects({wxPoint(x, y), size}) && beyond > other.GetLeft() + other.width / 4) x = beyond;
-    }
-    window.SetPosition({std::max(screen.GetLeft(), x), std::max(screen.GetTop(), y)});
+    // What the window manager adds to the new window, too.
+    const wxSize border = anchor.GetSize() - anchor.GetClientSize();
+    const wxSize size = window.GetClientSize() + border;
+    ToolRoom room{AreaOf(ScreenOf(anchor)), AreaOf(anchor.GetRect()), AreaOf(anchor.Spare()), {}};
+    std::transform(taken.begin(), taken.end(), std::back_inserter(room.taken), AreaOf);
+    const Area place = PlaceOfTool(size.x, size.y, window.GetSizer()->GetMinSize().y + border.y, room);
+    if (place.height != size.y) window.SetClientSize(size.x - border.x, place.height - border.y);
+    window.SetPosition({place.x, place.y});
 }
 
 }  // namespace tarvex

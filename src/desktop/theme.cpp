@@ -43,4 +43,10 @@ Palette TextPalette() {
     return Palette(Ink{(std::uint32_t{ink.Red()} << 16) | (std::uint32_t{ink.Green()} << 8) | ink.Blue()});
 }
 
+wxColour LabelInk(Colour colour) {
+    if (colour == Black) return wxNullColour;
+    const wxColour named(colour >> 16 & 0xFF, colour >> 8 & 0xFF, colour & 0xFF);
+    return Mixed(named, IsDark() ? *wxWHITE : *wxBLACK, 0.25);
+}
+
 }  // namespace tarvex

@@ -11,6 +11,9 @@ namespace tarvex {
 // colour of its own: the theme paints it.
 wxColour BoxBackground(Colour colour);
 
+// The same for the text of a label. Black, a plain label, is no colour of its own either.
+wxColour LabelInk(Colour colour);
+
 // The palette that goes with the desktop theme.
 const Palette& ThemePalette();
 // A palette in the theme's colour of text alone.

@@ -48,6 +48,8 @@ ModifyProcedure::ModifyProcedure(const Workplace& workplace, const EditorTools& 
     for (Button* button : {&ModifyWaypointCommand, &DeleteWaypointCommand, &MoveUp, &MoveDown}) {
         button->SetEnabled(false);
     }
+    MoveUp.SetRepeats();
+    MoveDown.SetRepeats();
     Connect();
     state_.Rows.Observe(*this);
     ShowRowsInUse();

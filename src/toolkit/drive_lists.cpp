@@ -146,14 +146,14 @@ void FolderList::SetListIndex(int index) {
 
 void FolderList::ShowChosen(std::string_view path) {
     chosen_ = path;
+    for (int index = FirstIndex(); index < ListCount(); ++index) {
+        if (EqualFolded(List(index), chosen_)) listIndex_ = index;
+    }
     Changed();
 }
 
-std::optional<int> FolderList::ChosenIndex() const {
-    for (int index = FirstIndex(); index < ListCount(); ++index) {
-        if (EqualFolded(List(index), chosen_)) return index;
-    }
-    return std::nullopt;
+bool FolderList::ShowsChosen() const {
+    return !chosen_.empty() && EqualFolded(List(listIndex_), chosen_);
 }
 
 FileList::FileList(Form& form, std::string_view name, int tabIndex, FileSystem& files)

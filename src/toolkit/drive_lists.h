@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -58,10 +57,10 @@ class FolderList : public Control {
     int ListIndex() const { return listIndex_; }
     // Runs OnClick when the selection changes.
     void SetListIndex(int index);
-    // The folder that is shown as chosen where the list has a row for it. Empty: none.
+    // The folder that counts as chosen (empty: none). Where it has a row, that is selected, without OnClick.
     void ShowChosen(std::string_view path);
-    // The index of that row, if there is one.
-    std::optional<int> ChosenIndex() const;
+    // Whether the selected row is that folder: on any other it is no choice, only where the user is.
+    bool ShowsChosen() const;
     bool TakesFocus() const override { return true; }
     using Control::Name;
 

@@ -80,6 +80,15 @@ bool OptionButton::IsTabStop() const {
     return std::none_of(group.begin(), group.end(), [](const OptionButton* other) { return other->value_; });
 }
 
+OptionButton& OptionButton::Neighbour(bool forward) {
+    auto group = GroupOf(*this);
+    if (!forward) std::reverse(group.begin(), group.end());
+    std::rotate(group.begin(), std::find(group.begin(), group.end(), this) + 1, group.end());
+    return **std::find_if(group.begin(), group.end(), [this](const OptionButton* other) {
+        return other->CanTakeFocus() || other == this;
+    });
+}
+
 void CheckBox::SetValue(int value) {
     if (value_ == value) return;
     value_ = value;

@@ -85,10 +85,15 @@ class Button : public CaptionedControl {
     bool DropsBoxes() const { return boxes_ == Boxes::Dropped; }
     bool TakesFocus() const override { return true; }
 
+    // A double click presses the button once, unless it repeats: then each click is a press of its own.
+    bool Repeats() const { return repeats_; }
+    void SetRepeats() { repeats_ = true; }
+
     std::function<void()> OnClick;
 
   private:
     Boxes boxes_;
+    bool repeats_ = false;
 };
 
 // One of several in a frame, of which at most one is selected.
@@ -106,6 +111,9 @@ class OptionButton : public CaptionedControl {
     bool TakesFocus() const override { return true; }
     // The selected option of a frame is its tab stop; without a selection each option is one.
     bool IsTabStop() const override;
+    // The usable option that stands behind it, or before it, in their frame, in the order of their making
+    // and round; itself when it is the only one.
+    OptionButton& Neighbour(bool forward);
 
     std::function<void()> OnClick;
 

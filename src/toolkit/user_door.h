@@ -53,7 +53,9 @@ class UserDoor {
 
     bool MoveFocus(Control& control);
     bool Tab(Form& form, bool forward);  // the Tab key in a form
-    bool Escape(Form& form);             // presses the form's way out
+    // An arrow key while an option has the focus: picks its neighbour.
+    bool Arrow(OptionButton& option, bool forward) { return Pick(option.Neighbour(forward)); }
+    bool Escape(Form& form);  // presses the form's way out
     // A key pressed in a form: presses the button of its shortcut. Unless the press moved the focus on, it
     // goes back to the control that had it. Tells whether the key is a shortcut where the focus stands, and
     // so means nothing else there; a button that takes no press leaves it one. Nothing while another form has

@@ -409,8 +409,8 @@ Road::State Road::StateOf(const Control& control) {
             state.text += " " + folders->Name(row);
         }
         parts["line"] = "#" + std::to_string(folders->ListIndex());
-        const auto chosen = folders->ChosenIndex();
-        parts["chosen"] = chosen ? "chosen " + folders->List(*chosen) : "none chosen";
+        parts["chosen"] =
+            folders->ShowsChosen() ? "chosen " + folders->List(folders->ListIndex()) : "none chosen";
     } else if (const auto* files = dynamic_cast<const FileList*>(&control)) {
         state.text = files->Path() + " " + files->Pattern() + ": " + Joined(files->Lines());
     }

@@ -188,6 +188,17 @@ TEST_F(FormsTest, OptionsOfAFrameExcludeEachOther) {
     EXPECT_EQ(clicks, (Names{"Lone", "Second", "First"}));
 }
 
+TEST_F(FormsTest, ArrowsLeadRoundTheOptionsOfAFrame) {
+    EXPECT_TRUE(door.Arrow(a->First, true));
+    EXPECT_TRUE(a->Second.Value() && a->Second.HasFocus());
+    EXPECT_TRUE(door.Arrow(a->Second, true));
+    EXPECT_TRUE(a->First.Value());
+    EXPECT_TRUE(door.Arrow(a->First, false));
+    EXPECT_TRUE(a->Second.Value());
+    a->First.SetEnabled(false);
+    EXPECT_EQ(&a->Second.Neighbour(true), &a->Second);
+}
+
 TEST_F(FormsTest, TabWalksTheUsableStopsInOrderAndRound) {
     const auto walk = [&](bool forward) {
         std::string names;
