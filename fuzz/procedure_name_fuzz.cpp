@@ -5,13 +5,15 @@
 #include <optional>
 #include <string>
 
-#include "geometry/text_rules.h"
 #include "procedure/procedure_file_name.h"
+#include "support/memory_file_system.h"
 #include "target.h"
 #include "toolkit/failure.h"
 
 namespace tarvex::fuzzing {
 namespace {
+
+const testing::MemoryFileSystem Files;
 
 constexpr std::string_view Modes[] = {"D", "E", "S", "T", "I", "J"};
 
@@ -38,7 +40,8 @@ void CheckSplit(std::string_view name) {
 }
 
 ProcedureName UpperCased(const ProcedureName& name) {
-    return {Upper(name.icao), Upper(name.basicName), Upper(name.secondName), name.kind};
+    return {Files.UpperCase(name.icao), Files.UpperCase(name.basicName), Files.UpperCase(name.secondName),
+            name.kind};
 }
 
 std::string WithoutSeparators(std::string text) {
@@ -48,8 +51,8 @@ std::string WithoutSeparators(std::string text) {
 
 // A name built from parts without separators gives the parts back, and no part's text can lead it elsewhere.
 void CheckBuilt(const ProcedureName& typed, std::string_view mode) {
-    const std::string built = BuildProcedureFileName(typed, mode);
-    const std::string parts = Upper(typed.icao) + Upper(typed.basicName) + Upper(typed.secondName);
+    const std::string built = BuildProcedureFileName(typed, mode, Files);
+    const std::string parts = Files.UpperCase(typed.icao + typed.basicName + typed.secondName);
     Require(built.find(':') == std::string::npos || parts.find(':') != std::string::npos,
             "no drive comes in");
     Require(
@@ -65,9 +68,9 @@ void CheckBuilt(const ProcedureName& typed, std::string_view mode) {
     }
     ProcedureName plain = expected;
     plain.kind = typed.kind;
-    const std::string name = BuildProcedureFileName(plain, mode);
+    const std::string name = BuildProcedureFileName(plain, mode, Files);
     Require(Split(name) == expected, "a built name splits into its parts", {name});
-    Require(BuildProcedureFileName(expected, mode) == name, "a name read back builds itself", {name});
+    Require(BuildProcedureFileName(expected, mode, Files) == name, "a name read back builds itself", {name});
 }
 
 // The first three lines; what isn't there is empty.

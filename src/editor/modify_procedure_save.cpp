@@ -29,7 +29,7 @@ void ModifyProcedure::BuildFilename() {
         .secondName = TransitionText.Text(),
         .kind = runway ? ProcedureName::Kind::Runway : ProcedureName::Kind::Transition,
     };
-    FilenameText.SetCaption(BuildProcedureFileName(name, state_.ProcedureMode));
+    FilenameText.SetCaption(BuildProcedureFileName(name, state_.ProcedureMode, workplace_.platform.files));
 }
 
 void ModifyProcedure::SaveCommand_Click() {

@@ -23,10 +23,11 @@ std::string Between(std::string_view text, std::ptrdiff_t from, std::ptrdiff_t t
 
 }  // namespace
 
-std::string BuildProcedureFileName(const ProcedureName& name, std::string_view mode) {
-    std::string built = Upper(name.icao);
-    if (!name.basicName.empty()) built += "-" + Upper(name.basicName);
-    if (!name.secondName.empty()) built += "." + Upper(name.secondName);
+std::string BuildProcedureFileName(const ProcedureName& name, std::string_view mode,
+                                   const FileSystem& files) {
+    std::string built = files.UpperCase(name.icao);
+    if (!name.basicName.empty()) built += "-" + files.UpperCase(name.basicName);
+    if (!name.secondName.empty()) built += "." + files.UpperCase(name.secondName);
     if (name.basicName.empty()) return built;
     if (name.secondName.empty()) return built.append(MainEnding(mode));
     const bool runway = IsDeparture(mode) && name.kind == ProcedureName::Kind::Runway;

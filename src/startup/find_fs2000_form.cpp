@@ -17,8 +17,7 @@ FindFS2000Form::FindFS2000Form(const Workplace& workplace)
     : Form(workplace.host, "FindFS2000Form", ""),
       Drive1(*this, "Drive1", 0, workplace.platform.files),
       Dir1(*this, "Dir1", 1, workplace.platform.files),
-      workplace_(workplace),
-      folderBefore_(workplace.state.SimulatorPath) {
+      workplace_(workplace) {
     for (Control* control : Controls()) {
         if (control != &Frame1) control->PutInto(Frame1);
     }
@@ -29,11 +28,10 @@ FindFS2000Form::FindFS2000Form(const Workplace& workplace)
 }
 
 void FindFS2000Form::Form_Load() {
-    SetSimulatorPath(RegisteredSimulatorFolder(workplace_.platform.registry));
-    const std::string folder = workplace_.state.SimulatorPath;
-    if (folder.empty()) return;
+    Choose(RegisteredSimulatorFolder(workplace_.platform.registry));
+    if (SimulatorPath.empty()) return;
     try {
-        Drive1.SetDrive(Left(folder, DriveLength));
+        Drive1.SetDrive(Left(SimulatorPath, DriveLength));
     } catch (const Failure&) {
         // The drive is gone: the lists stay where they are.
     }
@@ -41,7 +39,6 @@ void FindFS2000Form::Form_Load() {
 
 void FindFS2000Form::Form_Unload() {
     if (done_) return;
-    workplace_.state.SimulatorPath = folderBefore_;
     if (workplace_.host.Visible().size() <= 1) {
         workplace_.initialLoad.Unload();
     } else if (!workplace_.modifyProcedure.IsLoaded()) {
@@ -54,20 +51,21 @@ void FindFS2000Form::Drive1_Change() {
 }
 
 void FindFS2000Form::Dir1_Change() {
-    SetSimulatorPath(Dir1.Path());
+    Choose(Dir1.Path());
 }
 
 void FindFS2000Form::Dir1_Click() {
     const std::string clicked = Dir1.List(Dir1.ListIndex());
-    if (clicked != Dir1.Path()) SetSimulatorPath(clicked);
+    if (clicked != Dir1.Path()) Choose(clicked);
 }
 
 void FindFS2000Form::FindDoneCommand_Click() {
     SharedState& state = workplace_.state;
     state.SettingsPath = SettingsPathIn(workplace_.platform.programFolder);
+    FileSystem& files = workplace_.platform.files;
     try {
-        WriteSettingsFile(workplace_.platform.files, state.SettingsPath,
-                          {.SimulatorPath = Upper(state.SimulatorPath),
+        WriteSettingsFile(files, state.SettingsPath,
+                          {.SimulatorPath = files.UpperCase(SimulatorPath),
                            .DefaultLatHemisphere = "N",
                            .DefaultLongHemisphere = "W",
                            .MagVarSide = {}},
@@ -76,6 +74,7 @@ void FindFS2000Form::FindDoneCommand_Click() {
         workplace_.dialogue.Ask(FolderNotKept(state.SettingsPath, failure.Reason()));
         return;
     }
+    state.SimulatorPath = SimulatorPath;
     state.DefaultLatHemisphere = "N";
     state.DefaultLongHemisphere = "W";
     state.MagVarSide = "W";
@@ -93,8 +92,8 @@ void FindFS2000Form::LoadTables() {
     }
 }
 
-void FindFS2000Form::SetSimulatorPath(const std::string& folder) {
-    workplace_.state.SimulatorPath = folder;
+void FindFS2000Form::Choose(const std::string& folder) {
+    SimulatorPath = folder;
     Dir1.ShowChosen(folder);
     if (folder.empty()) {
         DataHintLabel.SetCaption(NoFolderHint());

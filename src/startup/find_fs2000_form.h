@@ -24,23 +24,25 @@ class FindFS2000Form : public Form {
     Label WayBackLabel{*this, "WayBackLabel", "The folder can be chosen again by deleting Tarvex.INI."};
     Button FindDoneCommand{*this, "FindDoneCommand", "Done", 2};
 
+    // The folder chosen so far; empty for none. It becomes the program's with Done.
+    std::string SimulatorPath;
+
     void Form_Load() override;
-    // The way out without Done: the folder is again what it was. The menu comes back, unless the editor keeps
-    // it away; the run ends when nothing else is on the screen.
+    // The way out without Done. The menu comes back, unless the editor keeps it away; the run ends when
+    // nothing else is on the screen.
     void Form_Unload() override;
     void Drive1_Change();
     void Dir1_Change();
     void Dir1_Click();
-    // Keeps the folder, whatever it holds, loads its navigation data and leads to the menu. Where the
-    // settings file can't be written the screen stays.
+    // Takes and keeps the folder, whatever it holds, loads its navigation data and leads to the menu. Where
+    // the settings file can't be written the screen stays.
     void FindDoneCommand_Click();
 
   private:
-    void SetSimulatorPath(const std::string& folder);
+    void Choose(const std::string& folder);
     void LoadTables();
 
     const Workplace& workplace_;
-    const std::string folderBefore_;
     bool done_ = false;
 };
 

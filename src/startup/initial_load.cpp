@@ -1,6 +1,5 @@
 #include "startup/initial_load.h"
 
-#include "geometry/text_rules.h"
 #include "procedure/procedure_mode.h"
 #include "startup/simulator_folder.h"
 #include "startup/startup_messages.h"
@@ -86,7 +85,7 @@ bool InitialLoad::RecoverMissingSettings() {
         workplace_.AskForSimulatorFolder();
         return false;
     }
-    RewriteSettings({.SimulatorPath = Upper(state_.SimulatorPath),
+    RewriteSettings({.SimulatorPath = workplace_.platform.files.UpperCase(state_.SimulatorPath),
                      .DefaultLatHemisphere = "N",
                      .DefaultLongHemisphere = "W",
                      .MagVarSide = "W"});

@@ -32,6 +32,10 @@ class FileSystem {
   public:
     virtual ~FileSystem() = default;
 
+    // A path, or a name in one, in upper case: another spelling of the same file or folder. Letters whose
+    // case tells files apart stay as they are; here these are all but A to Z.
+    virtual std::string UpperCase(std::string_view path) const;
+
     virtual FileText Read(const std::string& path) = 0;
 
     // Creates the file or replaces what it held. A disk without the room for it leaves the file as it was; of

@@ -19,6 +19,15 @@ inline std::string Folded(std::string_view text) {
     return folded;
 }
 
+// The text with A to Z for a to z.
+inline std::string Capitals(std::string_view text) {
+    std::string capitals(text);
+    for (char& c : capitals) {
+        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - ('a' - 'A'));
+    }
+    return capitals;
+}
+
 constexpr bool BeginsFolded(std::string_view text, std::string_view beginning) {
     return text.size() >= beginning.size() &&
            std::equal(beginning.begin(), beginning.end(), text.begin(),

@@ -58,6 +58,15 @@ Failure LastFailure(const std::string& path, bool folderFound) {
     return SystemFailure(static_cast<unsigned long>(errno), path, folderFound);
 }
 
+// The same, with `mapped` for what stands for `path`. A folder that is a link to nowhere is not there.
+Failure LastFailure(const std::string& path, const MappedPath& mapped) {
+    const int error = errno;
+    const std::string folder = mapped.path.substr(0, mapped.path.find_last_of('/') + 1);
+    struct stat status {};
+    const bool leads = folder.empty() || stat(folder.c_str(), &status) == 0;
+    return SystemFailure(static_cast<unsigned long>(error), path, mapped.folderFound && leads);
+}
+
 // Repeats a call that a signal interrupted.
 template <class Call>
 auto Repeated(Call call) {
@@ -127,7 +136,7 @@ struct stat PlainStatus(const OpenFile& file, const std::string& path) {
 
 FileText PosixFileSystem::Read(const std::string& path) {
     const auto mapped = mapping_.ToSystem(path);
-    const auto fail = [&] { throw LastFailure(path, mapped.folderFound); };
+    const auto fail = [&] { throw LastFailure(path, mapped); };
     OpenFile file(
         Repeated([&] { return open(mapped.path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY); }));
     if (file.Descriptor() < 0) fail();
@@ -153,7 +162,7 @@ FileText PosixFileSystem::Read(const std::string& path) {
 
 void PosixFileSystem::Write(const std::string& path, std::string_view text) {
     const auto mapped = mapping_.ToSystem(path);
-    const auto fail = [&] { throw LastFailure(path, mapped.folderFound); };
+    const auto fail = [&] { throw LastFailure(path, mapped); };
     constexpr mode_t everyoneByUmask = 0666;
     OpenFile file(Repeated([&] {
         return open(mapped.path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK | O_NOCTTY,
@@ -196,8 +205,9 @@ std::optional<std::string> PosixFileSystem::FindFile(const std::string& path) {
         if (KindOf(status.st_mode) != Kind::PlainFile) return std::nullopt;
         return mapped.path.substr(mapped.path.find_last_of('/') + 1);
     }
-    if (errno == ENOENT && mapped.folderFound) return std::nullopt;
-    throw LastFailure(path, mapped.folderFound);
+    const Failure failure = LastFailure(path, mapped);
+    if (failure.Number() == FileNotFound) return std::nullopt;
+    throw failure;
 }
 
 std::vector<std::string> PosixFileSystem::NamesOf(const std::string& folder, Kind kind) const {

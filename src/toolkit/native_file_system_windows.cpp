@@ -2,6 +2,7 @@
 #include <new>
 #include <windows.h>
 
+#include "toolkit/code_page_windows.h"
 #include "toolkit/native_file_system.h"
 #include "toolkit/system_error.h"
 
@@ -76,6 +77,7 @@ void CutAt(const OpenFile& file, std::size_t size, const std::string& path) {
 
 class WindowsFileSystem : public FileSystem {
   public:
+    std::string UpperCase(std::string_view path) const override { return UpperInCodePage(path, CP_ACP); }
     FileText Read(const std::string& path) override;
     void Write(const std::string& path, std::string_view text) override;
     std::optional<std::string> FindFile(const std::string& path) override;

@@ -89,7 +89,7 @@ std::vector<std::string> PathMapping::Drives() const {
     for (const auto& name : view_.Names(devices_)) {
         // Beside the drives stand links to devices, as "c::".
         if (name.size() == 2 && HasDriveLetter(name) && name[0] == Folded(name[0])) {
-            drives.push_back(std::string{static_cast<char>(name[0] - ('a' - 'A'))} + ":\\");
+            drives.push_back(Capitals(name) + "\\");
         }
     }
     std::sort(drives.begin(), drives.end());

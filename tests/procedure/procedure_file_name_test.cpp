@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/failure_of.h"
+#include "support/memory_file_system.h"
 
 namespace tarvex {
 
@@ -26,11 +27,18 @@ TEST(ProcedureFileName, IsBuiltFromTheBoxesAndTheMode) {
         {{"KXYZ", "", "ABC", Kind::Runway}, "DESTIJ", "KXYZ.ABC"},
         {{"", "DEMO1", ""}, "E", "-DEMO1.wsd"},
         {{"KXY ", "A-B.C", ""}, "E", "KXY -A-B.C.wsd"},
-        {{"KXYZ", "\xE4\xF6\xFC", ""}, "E", "KXYZ-\xC4\xD6\xDC.wsd"},
+        {{"KXYZ",
+          "\xE4\xF6\xFC"
+          "a",
+          ""},
+         "E",
+         "KXYZ-\xE4\xF6\xFC"
+         "A.wsd"},
     };
+    const testing::MemoryFileSystem files;
     for (const auto& [name, modes, built] : cases) {
         for (const char* mode = modes; *mode != '\0'; ++mode) {
-            EXPECT_EQ(BuildProcedureFileName(name, std::string_view(mode, 1)), built) << *mode;
+            EXPECT_EQ(BuildProcedureFileName(name, std::string_view(mode, 1), files), built) << *mode;
         }
     }
 }

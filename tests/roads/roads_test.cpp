@@ -37,7 +37,7 @@ std::string Padded(std::string text, std::size_t width) {
 
 std::string PathOf(const std::string& name) {
     for (const char* folder : {"Sids", "Stars", "Approaches"}) {
-        if (name.starts_with(folder)) return "C:\\FS2000\\Giostam\\navdata\\" + name;
+        if (name.starts_with(folder)) return "C:\\FS2000\\Giostam\\navdata\\" + Road::Unwritten(name);
     }
     return Road::Unwritten(name);
 }

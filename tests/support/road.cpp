@@ -332,7 +332,7 @@ void Road::NoteFiles() {
     for (const auto& done : services.files.Operations()) {
         if (done.operation != MemoryFileSystem::Operation::Write) continue;
         const bool procedure = done.path.starts_with(Data);
-        const std::string name = procedure ? done.path.substr(Data.size()) : done.path;
+        const std::string name = Written(procedure ? done.path.substr(Data.size()) : done.path);
         if (done.failed || !services.files.Has(done.path)) {
             Note("could not write " + name);
             continue;

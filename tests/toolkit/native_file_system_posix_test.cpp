@@ -108,6 +108,23 @@ TEST(PosixFiles, ListsLinksByWhatTheyLeadToAndOnlyNamesThatAPathCanHold) {
     EXPECT_EQ(files->Files(folder.Path()), std::vector<std::string>{"to file"});
     EXPECT_EQ(folders, (std::vector<std::string>{"sub", "to folder"}));
     EXPECT_EQ(NumberOf([&] { files->Read(folder.Path("to nothing")); }), FileNotFound);
+    const std::string inside = folder.Path("to nothing\\X.wsd");
+    EXPECT_EQ(NumberOf([&] { files->FindFile(inside); }), PathNotFound);
+    EXPECT_EQ(NumberOf([&] { files->Write(inside, "x"); }), PathNotFound);
+}
+
+TEST(PosixFiles, UpperCaseOfANameIsThatName) {
+    const TempFolder folder;
+    const auto files = MakeNativeFileSystem();
+    for (const std::string name : {"spiel \xE9\xFF", "\xE8\xE3\xF0\xFB", "fs2000-\xFD\xDD\xF0i",
+                                   "\xF0\xE1\xDF", "\xD0\xB8\xD0\xB3\xD1\x80\xD1\x8B i\xC4\xB1"}) {
+        folder.Put(name + "/kl\xE9-x.wsd", "old");
+        const std::string upper = files->UpperCase(folder.Path(name + "\\kl\xE9-x.wsd"));
+        files->Write(upper, "new");
+        EXPECT_EQ(folder.Content(name + "/kl\xE9-x.wsd"), "new");
+        EXPECT_EQ(files->Files(folder.Path(name)).size(), 1U);
+        EXPECT_NE(upper.find("\\KL\xE9-X.WSD"), std::string::npos);
+    }
 }
 
 TEST(PosixFiles, CurrentFolderThatHasGoneIsAFailure) {

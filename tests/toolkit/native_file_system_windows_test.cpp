@@ -2,6 +2,7 @@
 #include <windows.h>
 
 #include "support/temp_folder.h"
+#include "toolkit/code_page_windows.h"
 #include "toolkit/failure.h"
 #include "toolkit/native_clock.h"
 #include "toolkit/native_file_system.h"
@@ -50,6 +51,34 @@ TEST(WindowsFiles, DevicesAndWildcardsAreNoFiles) {
     EXPECT_EQ(NumberOf([&] { files->Read("\\\\.\\NUL"); }), AccessError);
     EXPECT_NE(NumberOf([&] { files->Write(folder.Path("what?.wsd"), "x"); }), 0);
     EXPECT_EQ(NumberOf([&] { files->Read(folder.Path("no\\what?.wsd")); }), PathNotFound);
+}
+
+TEST(WindowsFiles, UpperCaseGoesByTheCodePageAndKeepsTheFolder) {
+    const struct {
+        unsigned codePage;
+        const char *name, *upper;
+    } cases[] = {
+        {1252, "spi\xE9l \xE5\xFF\xDF\xF7\xB5", "SPI\xC9L \xC5\x9F\xDF\xF7\xB5"},
+        {1251, "\xE8\xE3\xF0\xFB \xB8\xB4z", "\xC8\xC3\xD0\xDB \xA8\xA5Z"},
+        {1253, "\xF0\xE1\xDF \xFE\xC0", "\xD0\xC1\xBA \xBF\xC0"},
+        {1254, "fsi \xF0\xFE\xFD\xDD\xDDi", "FSI \xD0\xDE\xFD\xDD\xDDI"},
+        {932, "\x83\x61 \x81\x61z", "\x83\x61 \x81\x61Z"},
+        {CP_UTF8, "\xD0\xB8\xD0\xB3 \xC3\xA9i", "\xD0\x98\xD0\x93 \xC3\x89I"},
+    };
+    for (const auto& c : cases) EXPECT_EQ(UpperInCodePage(c.name, c.codePage), c.upper) << c.codePage;
+
+    // Every letter of the code page in use, as the disk takes it.
+    const auto files = MakeNativeFileSystem();
+    for (int letter = 0xA1; letter <= 0xFF; ++letter) {
+        const TempFolder folder;
+        const std::string name = std::string("a") + static_cast<char>(letter) + "z";
+        const std::string path = folder.Path() + "\\" + name;
+        files->Write(path, "old");
+        if (files->Files(folder.Path()) != std::vector{name}) continue;  // not in the code page
+        files->Write(files->UpperCase(path), "new");
+        EXPECT_EQ(files->Files(folder.Path()), std::vector{name});
+        EXPECT_EQ(files->Read(path).View(), "new");
+    }
 }
 
 TEST(WindowsRegistry, ReadsAValueAndLooksAmongThe32BitKeys) {
