@@ -29,6 +29,13 @@ double LongitudeChange(double from, double to) {
     return change;
 }
 
+// A difference of latitudes as a Mercator map stretches it, in degrees; infinite from or to a pole.
+double StretchedLatitudes(double from, double to) {
+    if (from == to) return 0;
+    const double sines = 2 * CosineOfLatitude((from + to) / 2) * std::sin((to - from) / 2 * RadiansPerDegree);
+    return std::asinh(sines / (CosineOfLatitude(from) * CosineOfLatitude(to))) * DegreesPerRadian;
+}
+
 }  // namespace
 
 RhumbPoint RhumbPointAt(double latitudeDegrees, double longitudeDegrees) {
@@ -56,17 +63,19 @@ std::optional<RhumbPoint> RhumbLineStep(const RhumbPoint& start, double distance
 RhumbLeg RhumbLegBetween(const Position& from, const Position& to) {
     const double north = to.latitude - from.latitude;
     const double east = LongitudeChange(from.longitude, to.longitude);
-    const double cosFrom = CosineOfLatitude(from.latitude);
-    double stretched = 0;  // `north` as a Mercator map has it, degrees
-    double narrowing = cosFrom;
-    if (north != 0) {
-        const double sines =
-            2 * CosineOfLatitude((from.latitude + to.latitude) / 2) * std::sin(north / 2 * RadiansPerDegree);
-        stretched = std::asinh(sines / (cosFrom * CosineOfLatitude(to.latitude))) * DegreesPerRadian;
-        narrowing = north / stretched;
-    }
+    const double stretched = StretchedLatitudes(from.latitude, to.latitude);
+    const double narrowing = north == 0 ? CosineOfLatitude(from.latitude) : north / stretched;
     const double course = std::atan2(east, stretched) * DegreesPerRadian;
     return {course < 0 ? std::fmod(course + 360, 360) : course, std::hypot(north, narrowing * east) * 60};
+}
+
+Position RhumbPointBetween(const Position& from, const Position& to, double share) {
+    const double latitude = from.latitude + share * (to.latitude - from.latitude);
+    const double whole = StretchedLatitudes(from.latitude, to.latitude);
+    const double part = StretchedLatitudes(from.latitude, latitude);
+    const double eastShare = whole == 0 || !std::isfinite(whole) ? share : part / whole;
+    const double east = LongitudeChange(from.longitude, to.longitude) * eastShare;
+    return {latitude, std::remainder(from.longitude + east, 360)};
 }
 
 PositionTexts PositionTextsOf(const RhumbPoint& point) {

@@ -58,6 +58,9 @@ struct RhumbLeg {
 // distance and 1e-9 degrees.
 RhumbLeg RhumbLegBetween(const Position& from, const Position& to);
 
+// The point of that line at a share of its way, 0 to 1.
+Position RhumbPointBetween(const Position& from, const Position& to, double share);
+
 // A point in the texts of waypoints and boxes. Whole degrees and minutes are magnitudes. All but the whole
 // degrees are laid out by patterns: "33.5", "34.", ".5", ".".
 struct PositionTexts {

@@ -46,9 +46,13 @@ void Remember(const SearchHit& hit, SearchVariables& variables) {
     variables.TransferValue = hit.elevation;
 }
 
-std::string FrequencyWithUnit(std::string_view frequency) {
+bool IsInKilohertz(std::string_view frequency) {
     constexpr double MostMegahertz = 120;
-    return std::string(frequency) + (LeadingNumber(frequency) > MostMegahertz ? " KHz" : " MHz");
+    return LeadingNumber(frequency) > MostMegahertz;
+}
+
+std::string FrequencyWithUnit(std::string_view frequency) {
+    return std::string(frequency) + (IsInKilohertz(frequency) ? " KHz" : " MHz");
 }
 
 }  // namespace tarvex

@@ -36,7 +36,9 @@ std::optional<SearchHit> HitAt(const NavigationTables& tables, NavigationTable t
 // What the shared variables keep of the entry that was chosen last.
 void Remember(const SearchHit& hit, SearchVariables& variables);
 
-// A frequency with its unit: above 120 it counts as KHz, else as MHz.
+// Whether a frequency, which the tables hold without its unit, is that of an NDB: above 120 it counts as KHz,
+// else as MHz.
+bool IsInKilohertz(std::string_view frequency);
 std::string FrequencyWithUnit(std::string_view frequency);
 
 }  // namespace tarvex
