@@ -11,8 +11,6 @@ namespace tarvex {
 
 namespace {
 
-constexpr std::size_t CodeLength = 4;
-
 std::string_view IdentifierAt(const NavigationTables& tables, std::int32_t index) {
     return EntryAt(tables, NavigationTable::Airports, index).identifier;
 }
@@ -32,9 +30,9 @@ std::string OppositeEnd(std::string_view name) {
 }
 
 Airport AirportOf(const NavigationTables& tables, std::int32_t index) {
-    const std::string_view code = IdentifierAt(tables, index).substr(0, CodeLength);
+    const std::string_view code = IdentifierAt(tables, index).substr(0, AirportCodeLength);
     const auto isSame = [&](std::int32_t other) {
-        return IdentifierAt(tables, other).substr(0, CodeLength) == code;
+        return IdentifierAt(tables, other).substr(0, AirportCodeLength) == code;
     };
     std::int32_t first = index;
     while (first > 0 && isSame(first - 1)) --first;
@@ -43,7 +41,7 @@ Airport AirportOf(const NavigationTables& tables, std::int32_t index) {
     for (std::int32_t at = first; at <= tables.AirportCount && isSame(at); ++at) {
         const NavigationEntry entry = EntryAt(tables, NavigationTable::Airports, at);
         if (const auto position = PositionOf(entry)) {
-            airport.ends.push_back({at, Trim(entry.identifier.substr(CodeLength)), *position});
+            airport.ends.push_back({at, Trim(entry.identifier.substr(AirportCodeLength)), *position});
         }
     }
     for (std::size_t end = 0; end < airport.ends.size(); ++end) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -10,6 +11,9 @@
 #include "navigation/navigation_tables.h"
 
 namespace tarvex {
+
+// Characters of AirportID that are the ICAO code.
+inline constexpr std::size_t AirportCodeLength = 4;
 
 // One end of a runway.
 struct RunwayEnd {

@@ -8,6 +8,7 @@
 
 #include "chart/even_letters.h"
 #include "chart/plan_view.h"
+#include "chart/target_words.h"
 
 namespace tarvex {
 namespace {
@@ -204,6 +205,47 @@ TEST_F(PlanSceneTest, PointingFindsTheNearestSymbol) {
     EXPECT_EQ(TargetAt(drawing, {at.x + 300, at.y - 250}), Target{});
     const Point navaid = SymbolOf({Target::Kind::Navaid, 1})->at;
     EXPECT_EQ(TargetAt(drawing, navaid), (Target{Target::Kind::Navaid, 1}));
+}
+
+TEST_F(PlanSceneTest, TargetsInWords) {
+    route.points[2].altitude = {Kind::At, 94, 94};
+    tables.FixTable[1] = {"BAD", "95", "x"};
+    const PositionGrid grid(tables);
+    const struct {
+        Target target;
+        int selected;
+        const char* words;
+    } cases[] = {
+        {{}, 0, ""},
+        {{Target::Kind::Fix, 1}, 0, ""},
+        {{Target::Kind::Fix, 0}, 0, "ONWAY, fix, N33°55.20' W118°06.06', 250° 5.3 NM from FUELR"},
+        {{Target::Kind::Navaid, 0},
+         -1,
+         "LAX, VOR 113.60 MHz, N33°56.00' W118°25.90', 261° 2.6 NM from RW25R"},
+        {{Target::Kind::Navaid, 1}, 1, "CPM, NDB 378.00 KHz, N33°53.32' W118°14.25', 225° 2.7 NM from LIMMA"},
+        {{Target::Kind::Runway, 0},
+         1,
+         "KLAX 07L, runway, elevation 126 ft, N33°56.15' W118°25.14', 275° 10.9 NM from LIMMA"},
+        {{Target::Kind::Row, 1},
+         1,
+         "LIMMA, waypoint 2, at or above 1900, 180K, N33°55.20' W118°12.00'; 045° 2.7 NM from CPM 378.00 "
+         "KHz; "
+         "094° 11.6 NM from LAX 113.60 MHz"},
+        {{Target::Kind::Row, 2},
+         2,
+         "RW25R, waypoint 3, runway, at 94, N33°56.39' W118°22.78'; 081° 2.6 NM from LAX 113.60 MHz; "
+         "294° 7.7 NM from CPM 378.00 KHz"},
+        {{Target::Kind::Row, 3}, 2, ""},
+    };
+    for (const auto& test : cases) {
+        EXPECT_EQ(TargetWords(test.target, route, tables, grid, OriginOf(route, test.selected)), test.words);
+    }
+    route.points[0].position = Position{33.9333, -118.4317};
+    EXPECT_TRUE(TargetWords({Target::Kind::Row, 0}, route, tables, grid, {})
+                    .ends_with("W118°25.90'; 286° 10.1 NM from CPM 378.00 KHz"))
+        << TargetWords({Target::Kind::Row, 0}, route, tables, grid, {})
+        << ": a navaid is not told from itself";
+    EXPECT_FALSE(OriginOf({}, -1));
 }
 
 // The corners of a line of words, `inset` pixels within.
