@@ -242,7 +242,7 @@ TEST_F(PlanSceneTest, TargetsInWords) {
     }
     route.points[0].position = Position{33.9333, -118.4317};
     EXPECT_TRUE(TargetWords({Target::Kind::Row, 0}, route, tables, grid, {})
-                    .ends_with("W118°25.90'; 286° 10.1 NM from CPM 378.00 KHz"))
+                    .ends_with("W118°25.90'; 286° 10.0 NM from CPM 378.00 KHz"))
         << TargetWords({Target::Kind::Row, 0}, route, tables, grid, {})
         << ": a navaid is not told from itself";
     EXPECT_FALSE(OriginOf({}, -1));
