@@ -107,19 +107,6 @@ void CheckNumberIn(std::string_view text) {
     CheckNumber(leading);
 }
 
-void CheckParts(std::string_view text) {
-    Require(Trim(text) == LeftTrim(RightTrim(text)) && Trim(text) == RightTrim(LeftTrim(text)), "trims",
-            {text});
-    const std::string upper = Upper(text);
-    Require(upper.size() == text.size() && Upper(upper) == upper, "upper case stays upper case", {text});
-    const auto n = static_cast<std::ptrdiff_t>(text.empty() ? 0 : static_cast<unsigned char>(text[0]));
-    Require(std::string(Left(text, n)).append(Mid(text, n + 1)) == text, "both parts are the whole", {text});
-    Require(text.ends_with(Right(text, n)), "the right part ends the text", {text});
-    const std::string_view what = Left(text, 2);
-    const std::ptrdiff_t at = Find(n + 1, text, what);
-    Require(at == 0 ? n > 0 : at > n && Mid(text, at, std::ssize(what)) == what, "found where it is", {text});
-}
-
 void CheckItems(std::string_view text) {
     TextReader reader(text, "file");
     std::size_t items = 0;
@@ -169,7 +156,6 @@ void CheckCoordinate(std::string_view degrees, std::string_view minutes) {
 
 void TryInput(std::string_view input) {
     CheckNumberIn(input);
-    CheckParts(input);
     CheckItems(input);
     CheckLines(input);
     const std::size_t comma = std::min(input.find(','), input.size());

@@ -24,6 +24,7 @@ struct Screen : Form {
     Frame OtherGroup{*this, "OtherGroup", ""};
     OptionButton Lone{OtherGroup, "Lone", "Lone", 4};
     CheckBox Check{*this, "Check", "Check", 5};
+    Button Drop{*this, "Drop", "Drop", Control::NoTabIndex, Boxes::Dropped};
 
     Button* WayOut() override { return &Go; }
     std::vector<Shortcut> Shortcuts() override {
@@ -216,6 +217,47 @@ TEST_F(FormsTest, TabWalksTheUsableStopsInOrderAndRound) {
     a->OtherGroup.SetVisible(false);
     EXPECT_EQ(FocusOn(), "") << "a control out of sight loses the focus";
     EXPECT_EQ(walk(true), "Second Go Box Second ");
+    a->Box.SetFocus();
+    b.slot.Show();
+    EXPECT_TRUE(door.Tab(*a, true));
+    EXPECT_EQ(FocusOn(), "A.Second") << "from another form the first";
+}
+
+TEST_F(FormsTest, ActivatedFormComesToTheFrontWithItsFocusUnlessThatIsHeld) {
+    a->Go.SetFocus();
+    b.slot.Show();
+    EXPECT_TRUE(door.Activate(*a));
+    EXPECT_EQ(OnScreen(), (Names{"B", "A"}));
+    EXPECT_EQ(FocusOn(), "A.Go");
+    a->Go.OnLostFocus = [&] { a->Go.SetFocus(); };
+    EXPECT_TRUE(door.Activate(*a));
+    EXPECT_FALSE(door.Activate(*b));
+    EXPECT_EQ(OnScreen(), (Names{"B", "A"}));
+    a->Go.OnLostFocus = nullptr;
+    b.slot.Hide();
+    EXPECT_FALSE(door.Activate(*b));
+    EXPECT_EQ(FocusOn(), "A.Go");
+}
+
+TEST_F(FormsTest, ButtonThatDropsTheBoxesComesBeforeTheLeavingRule) {
+    Names order;
+    Screen& form = *a;
+    form.Box.OnLostFocus = [&] { order.push_back("left"); };
+    form.Drop.OnClick = [&] { order.push_back("pressed"); };
+    form.Box.SetFocus();
+    EXPECT_TRUE(door.Press(form.Drop));
+    EXPECT_TRUE(door.Press(form.Drop));
+    EXPECT_EQ(order, (Names{"pressed", "left", "pressed"}));
+    form.Box.SetFocus();
+    form.Drop.SetEnabled(false);
+    EXPECT_FALSE(door.Press(form.Drop));
+    EXPECT_EQ(FocusOn(), "A.Box");
+    form.Drop.SetEnabled(true);
+    form.Drop.OnClick = [&] { form.Box.SetFocus(); };
+    EXPECT_TRUE(door.Press(form.Drop));
+    form.Drop.OnClick = [&] { form.Box.SetEnabled(false); };
+    EXPECT_TRUE(door.Press(form.Drop));
+    EXPECT_EQ(order.size(), 3U) << "a box that is not left, or out of use, has no leaving rule";
 }
 
 TEST_F(FormsTest, ControlsOutOfUseTakeNoAct) {
@@ -285,6 +327,11 @@ TEST_F(FormsTest, TypingIsCutAtTheLimitAndTakingAwayIsFree) {
     a->Box.SetText("ABCDEFGHIJ");
     EXPECT_EQ(typed("ABCDEFGHI"), "ABCDEFGHI");
     EXPECT_EQ(typed("ABCDEFGHIx"), "ABCDEFGHI");
+    EXPECT_EQ(typed("AxCDEFGHI"), "ABCDEFGHI") << "an exchange that has no room changes nothing";
+    a->Box.SetText("13");
+    EXPECT_EQ(typed("1223"), "123");
+    a->Box.SetText("aa");
+    EXPECT_EQ(typed("aaaa"), "aaa");
     a->Box.SetText("A       ");
     EXPECT_EQ(typed("AB       "), "AB      ") << "blanks at the end give way";
     EXPECT_EQ(typed("ABCD      "), "ABC     ");
