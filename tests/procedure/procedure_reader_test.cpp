@@ -21,7 +21,8 @@ class ProcedureReader : public ::testing::Test {
         state.ProcedureMode = "S";
     }
 
-    // The count of the rows that were read, or the reason why none were, which then must have changed nothing.
+    // The count of the rows that were read, or the reason why none were, which then must have changed
+    // nothing.
     std::string Read(const std::string& text) {
         const std::vector<WaypointRecord> before{{.WaypointID = "BEFORE"}};
         state.Rows.Assign(before);
@@ -48,10 +49,10 @@ TEST_F(ProcedureReader, FileCutOffAnywhereIsReadOrRefusedWhole) {
         const std::size_t behind = size < head.size() ? 0 : std::min(size - head.size(), 2 * line.size());
         const std::size_t rows = behind / line.size(), left = behind % line.size();
         const bool complete = left == 0 || left >= line.size() - 2;  // but for the line end
-        EXPECT_EQ(Read(whole.substr(0, size)),
-                  complete ? std::to_string(rows + (left > 0))
-                           : Path + std::string(", line ") + std::to_string(rows + 3) +
-                                 ": the file ends inside this waypoint");
+        EXPECT_EQ(Read(whole.substr(0, size)), complete ? std::to_string(rows + (left > 0))
+                                                        : Path + std::string(", line ") +
+                                                              std::to_string(rows + 3) +
+                                                              ": the file ends inside this waypoint");
     }
 }
 
