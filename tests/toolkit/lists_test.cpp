@@ -72,6 +72,11 @@ TEST_F(ListsTest, DriveListTakesKnownDrivesInAnyForm) {
         EXPECT_EQ(NumberOf([&] { list.SetDrive(unknown); }), PathNotFound) << unknown;
     }
     EXPECT_EQ(list.Drive(), "D:\\");
+    files.SetDrives({"C:\\", "\\"});
+    slot.Unload();
+    slot.Show();
+    Form().Drive.SetDrive("\\home");
+    EXPECT_EQ(Form().Drive.Drive(), "\\") << "a root without drives";
 }
 
 TEST_F(ListsTest, FileListNarrowsByTheBeginningOfNamesAndTellsTheNameClicked) {
