@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <optional>
 #include <string>
 
 #include "geometry/text_rules.h"
@@ -22,23 +23,15 @@ class FileRegistry : public Registry {
   public:
     explicit FileRegistry(std::string_view text) : text_(text) {}
 
-    bool OpenKey(std::uint32_t, const std::string& path, std::uint32_t, Key& key) override {
-        key = 1;
-        values_ = FindWineKey(text_, path);
-        return values_.has_value();
+    std::optional<std::string> Value(std::uint32_t, const std::string& path,
+                                     const std::string& name) override {
+        const auto values = FindWineKey(text_, path);
+        const std::string* value = values ? FindWineValue(*values, name) : nullptr;
+        return value != nullptr ? std::optional(*value) : std::nullopt;
     }
-    bool QueryValue(Key, const std::string& name, char* buffer, std::uint32_t& size) override {
-        const std::string* value = FindWineValue(*values_, name);
-        if (value == nullptr) return false;
-        if (buffer != nullptr) std::copy(value->begin(), value->end(), buffer);
-        size = static_cast<std::uint32_t>(value->size());
-        return true;
-    }
-    void CloseKey(Key) override { values_.reset(); }
 
   private:
     std::string_view text_;
-    std::optional<WineKeyValues> values_;
 };
 
 std::string Hex(const char* form, unsigned char byte) {
