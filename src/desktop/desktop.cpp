@@ -149,7 +149,19 @@ void Desktop::BringToFront(NativeForm& window) {
     Present(window);
 }
 
+NativeForm* Desktop::WindowOfFocus() {
+    const Control* focus = FocusOfProgram();
+    NativeForm* window = focus == nullptr ? nullptr : WindowOf(focus->Owner());
+    return window != nullptr && window->IsShown() ? window : nullptr;
+}
+
 void Desktop::ActivatedByUser(NativeForm& window) {
+    NativeForm* wanted = WindowOfFocus();
+    if (wanted != nullptr && wanted != &window && guard_.WindowsJustChanged()) {
+        // A click that is dropped brings no window to the front either.
+        BringToFront(*wanted);
+        return;
+    }
     front_ = &window;
     if (awaited_ != nullptr) {
         // On the way to the window that the program wants in front, others may come by.
@@ -168,8 +180,7 @@ void Desktop::CloseByUser(const Form& form) {
 wxWindow* Desktop::BeforeMessage() {
     FlushAll();
     guard_.WindowsChanged();
-    const Control* focus = FocusOfProgram();
-    NativeForm* window = focus == nullptr ? nullptr : WindowOf(focus->Owner());
+    NativeForm* window = WindowOfFocus();
     if (window == nullptr && !program_.host.Visible().empty()) {
         window = WindowOf(*program_.host.Visible().back());
     }

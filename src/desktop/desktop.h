@@ -61,6 +61,8 @@ class Desktop final : public FormObserver {
     void SettleFocus();
     void DropActs();
     void BringToFront(NativeForm& window);
+    // The window that holds the focus of the program; null while none on the screen does.
+    NativeForm* WindowOfFocus();
     void DestroyDetached();
     void End();
 

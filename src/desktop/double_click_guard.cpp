@@ -33,7 +33,7 @@ int DoubleClickGuard::FilterEvent(wxEvent& event) {
     if (type == wxEVT_LEFT_DOWN || type == wxEVT_LEFT_DCLICK) {
         const Moment now = Now();
         second_ = AreOneDoubleClick(std::exchange(click_, now), now);
-        swallowing_ = AreOneDoubleClick(windows_, now);
+        swallowing_ = WindowsJustChanged();
         return swallowing_ ? Event_Processed : Event_Skip;
     }
     if (type == wxEVT_LEFT_UP && swallowing_) {

@@ -20,6 +20,8 @@ class DoubleClickGuard final : public wxEventFilter {
 
     // A window of the program came up or went away.
     void WindowsChanged() { windows_ = Now(); }
+    // Whether a click now would follow that as part of a double click.
+    bool WindowsJustChanged() const { return AreOneDoubleClick(windows_, Now()); }
     // Whether the click that is being handled is the second of a double click.
     bool IsSecondClick() const { return second_; }
 

@@ -206,6 +206,24 @@ class Window:
         """Clicks the line of a list that shows this text."""
         self._click_on(until(lambda: self._line(name, line), f'the line "{line}" of {name}'))
 
+    def double_click(self, name):
+        self._click_on(self.node(name), 2)
+
+    def double_click_line(self, name, line):
+        self._click_on(until(lambda: self._line(name, line), f'the line "{line}" of {name}'), 2)
+
+    def click_behind(self, name):
+        """Clicks near the right end of a box."""
+        left, top, width, height = self.node(name).area()
+        xdotool("mousemove", left + width - 16, top + height // 2, "click", 1)
+
+    def lay_over(self, name, other, below):
+        """Moves the window so that its control lies over a control of another window."""
+        frame, here, there = self.root.area(), self.node(name).area(), other.node(below).area()
+        place = [frame[i] + there[i] + there[i + 2] // 2 - here[i] - here[i + 2] // 2 for i in (0, 1)]
+        xdotool("getactivewindow", "windowmove", *place)
+        until(lambda: self.node(name).area() != here, "the move")
+
     def type(self, name, text):
         """Clicks into a box, empties it and types."""
         self.click(name)
@@ -262,14 +280,14 @@ class Window:
 
     def _line(self, name, line):
         for node in self.node(name).descendants():
-            if node.role() == "table cell" and node.caption().rstrip() == line:
+            if node.role() == "table cell" and node.caption().strip() == line:
                 return node
         return None
 
     @staticmethod
-    def _click_on(node):
+    def _click_on(node, times=1):
         left, top, width, height = until(lambda: (area := node.area())[2] > 0 and area, "a place on the screen")
-        xdotool("mousemove", left + width // 2, top + height // 2, "click", 1)
+        xdotool("mousemove", left + width // 2, top + height // 2, "click", "--repeat", times, "--delay", 80, 1)
 
 
 def keys(text):
