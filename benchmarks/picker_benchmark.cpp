@@ -21,6 +21,14 @@ class NoMessages : public MessageBox {
     MessageAnswer Show(const Message& message) override { return message.defaultAnswer; }
 };
 
+class NoPictures : public PictureServices {
+  public:
+    double Width(const std::string&, double, bool) const override { return 0; }
+    std::optional<std::string> AskForPlace(const std::string&) override { return std::nullopt; }
+    std::string PngOf(const Drawing&) override { return {}; }
+    void Copy(const std::string&) override {}
+};
+
 // A program at its menu, with many stored departures, each of an airport whose code begins with "K".
 struct Machine {
     NavigationFiles simulator{1, 1, 1};
@@ -29,7 +37,8 @@ struct Machine {
     std::unique_ptr<Registry> registry = MakeNativeRegistry();
     std::unique_ptr<Clock> clock = MakeNativeClock();
     NoMessages messages;
-    Program program{{*files, *registry, *clock, messages, SystemFolder()}};
+    NoPictures pictures;
+    Program program{{*files, *registry, *clock, messages, pictures, SystemFolder()}};
 
     Machine() {
         std::ofstream(root / "Tarvex.INI") << simulator.SimulatorPath() << "\r\nN\r\nW\r\nW\r\n";
