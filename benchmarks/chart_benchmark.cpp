@@ -11,6 +11,8 @@
 #include "chart/plan_scene.h"
 #include "chart/plan_view.h"
 #include "chart/position_grid.h"
+#include "chart/profile_scene.h"
+#include "chart/route_words.h"
 #include "navigation/load_navigation_data.h"
 #include "navigation/search.h"
 #include "navigation_files.h"
@@ -182,16 +184,22 @@ void PlanSceneSweep(benchmark::State& state) {
 }
 BENCHMARK(PlanSceneSweep)->Unit(benchmark::kMillisecond)->Iterations(1);
 
-// A procedure of 201 rows where the tables have nothing, fitted.
-void PlanSceneOfFullProcedure(benchmark::State& state) {
+// A procedure of 201 rows where the tables have nothing, fitted, with its profile and legs.
+void FullProcedure(benchmark::State& state) {
     const NavigationTables tables;
     const PositionGrid grid(tables);
     const Route route = LongRoute({34, -118});
     const PlanContent content{.route = route, .tables = tables, .grid = grid};
     const PlanView view = FitView(PositionsOf(route), Screen);
-    for (auto _ : state) benchmark::DoNotOptimize(PlanScene(view, content, PlainMeasure()).items.size());
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(PlanScene(view, content, PlainMeasure()).items.size());
+        const Drawing profile =
+            ProfileDrawing(route, ProfileView::Whole(route), 0, {Screen.width, 300}, PlainMeasure());
+        benchmark::DoNotOptimize(profile.items.size());
+        benchmark::DoNotOptimize(LegsLines(route).size());
+    }
 }
-BENCHMARK(PlanSceneOfFullProcedure)->Unit(benchmark::kMillisecond);
+BENCHMARK(FullProcedure)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace tarvex::benchmarks
