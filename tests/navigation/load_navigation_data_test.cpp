@@ -81,6 +81,7 @@ TEST_F(LoadNavigationDataTest, NavaidsAreCutAtTheirPoints) {
         {Unread + "END  VOR 34.123456-117.1", "END  |6-117.|34.123456 |-117.1     "},
         // A point in front of column 34 is no latitude's.
         {Unread + "A.B  V.R 34.123456-117.123456110.50H", "A.B  |110.50|34.123456 |-117.123456"},
+        {Unread + "DMO  VOR.34.123456-117.123456110.50H", "DMO  |110.50|34.123456 |-117.123456"},
     };
     Put("", FileOf(lines), "; none");
     EXPECT_TRUE(Load().empty());
