@@ -62,19 +62,19 @@ LabelBinder& FormBuilder::PutText(Label& label, LabelStyle style, long flags) {
     wxFont font = widget->GetFont();
     if (style == LabelStyle::Heading) font.Scale(1.5f);
     if (style != LabelStyle::Plain) widget->SetFont(font.Bold());
-    return window_.Bind<LabelBinder>(label, std::vector{widget});
+    return window_.Tie<LabelBinder>(label, std::vector{widget});
 }
 
 wxTextCtrl* FormBuilder::Put(TextBox& box, int characters, const wxString& spoken) {
     auto* widget = new wxTextCtrl(ParentOf(box), wxID_ANY);
     widget->SetInitialSize(widget->GetSizeFromTextSize(SizeOf({characters, 1}).x));
-    window_.Bind<TextBoxBinder>(box, *widget, spoken);
+    window_.Tie<TextBoxBinder>(box, *widget, spoken);
     return widget;
 }
 
 wxAnyButton* FormBuilder::Put(Button& button) {
     auto* widget = new wxButton(ParentOf(button), wxID_ANY, wxString(" "));
-    window_.Bind<ButtonBinder>(button, *widget);
+    window_.Tie<ButtonBinder>(button, *widget);
     return widget;
 }
 
@@ -85,7 +85,7 @@ wxBitmapButton* FormBuilder::PutGlyph(Button& button, Glyph glyph, const wxStrin
         event.Skip();
         widget->SetBitmap(GlyphImage(glyph, size));
     });
-    window_.Bind<ButtonBinder>(button, *widget, spoken);
+    window_.Tie<ButtonBinder>(button, *widget, spoken);
     return widget;
 }
 
@@ -98,7 +98,7 @@ wxAnyButton* FormBuilder::PutSymbol(Button& button, Glyph glyph, const wxString&
 wxSizer* FormBuilder::PutSmall(Button& button, Glyph glyph, Label& label) {
     wxBitmapButton* widget = PutGlyph(button, glyph, ShownLines(label.Caption()));
     auto* text = new wxStaticText(ParentOf(label), wxID_ANY, wxString());
-    window_.Bind<LabelBinder>(label, std::vector{text}).PressesButton(button);
+    window_.Tie<LabelBinder>(label, std::vector{text}).PressesButton(button);
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     row->Add(widget, wxSizerFlags().CentreVertical());
     row->AddSpacer(Gap() * 3 / 4);
@@ -114,40 +114,40 @@ wxRadioButton* FormBuilder::Put(OptionButton& option) {
         none->Hide();
     }
     auto* widget = new wxRadioButton(parent, wxID_ANY, Shown(option.Caption()));
-    window_.Bind<OptionBinder>(option, *widget, *none);
+    window_.Tie<OptionBinder>(option, *widget, *none);
     return widget;
 }
 
 wxCheckBox* FormBuilder::Put(CheckBox& check) {
     auto* widget = new wxCheckBox(ParentOf(check), wxID_ANY, Shown(check.Caption()));
-    window_.Bind<CheckBoxBinder>(check, *widget);
+    window_.Tie<CheckBoxBinder>(check, *widget);
     return widget;
 }
 
 wxListBox* FormBuilder::Put(ListBox& list, wxSize characters, const wxString& spoken) {
     auto* widget = new wxListBox(ParentOf(list), wxID_ANY);
     widget->SetMinSize(SizeOf(characters));
-    window_.Bind<ListBoxBinder>(list, *widget, spoken);
+    window_.Tie<ListBoxBinder>(list, *widget, spoken);
     return widget;
 }
 
 wxChoice* FormBuilder::Put(DriveList& list, const wxString& spoken) {
     auto* widget = new wxChoice(ParentOf(list), wxID_ANY);
-    window_.Bind<DriveListBinder>(list, *widget, spoken);
+    window_.Tie<DriveListBinder>(list, *widget, spoken);
     return widget;
 }
 
 LineList* FormBuilder::Put(FolderList& list, wxSize characters, const wxString& spoken) {
     auto* widget = new LineList(ParentOf(list), true);
     widget->SetMinSize(SizeOf(characters));
-    window_.Bind<FolderListBinder>(list, *widget, spoken);
+    window_.Tie<FolderListBinder>(list, *widget, spoken);
     return widget;
 }
 
 LineList* FormBuilder::Put(FileList& list, wxSize characters, const wxString& spoken) {
     auto* widget = new LineList(ParentOf(list), false);
     widget->SetMinSize(SizeOf(characters));
-    window_.Bind<FileListBinder>(list, *widget, spoken);
+    window_.Tie<FileListBinder>(list, *widget, spoken);
     return widget;
 }
 
@@ -163,7 +163,7 @@ LineList* FormBuilder::Put(ColumnList& list, wxSize characters, const wxString& 
     for (const auto& [heading, number] : list.Columns()) columns.push_back({Shown(heading), number});
     auto* widget = new LineList(ParentOf(list), columns);
     widget->SetMinSize(SizeOf(characters));
-    window_.Bind<ColumnListBinder>(list, *widget, spoken);
+    window_.Tie<ColumnListBinder>(list, *widget, spoken);
     FillPage(list, widget);
     return widget;
 }
@@ -171,7 +171,7 @@ LineList* FormBuilder::Put(ColumnList& list, wxSize characters, const wxString& 
 wxWindow* FormBuilder::Put(Picture& picture) {
     auto* widget = new wxWindow(ParentOf(picture), wxID_ANY, wxDefaultPosition, wxDefaultSize,
                                 wxWANTS_CHARS | wxFULL_REPAINT_ON_RESIZE);
-    window_.Bind<PictureBinder>(picture, *widget);
+    window_.Tie<PictureBinder>(picture, *widget);
     FillPage(picture, widget);
     return widget;
 }
@@ -183,7 +183,7 @@ wxWindow* FormBuilder::Put(Tabs& tabs, const wxString& spoken) {
         widget->AddPage(page, Shown(caption));
         pages_[content] = page;
     }
-    window_.Bind<TabsBinder>(tabs, *widget, spoken);
+    window_.Tie<TabsBinder>(tabs, *widget, spoken);
     return widget;
 }
 
@@ -192,13 +192,25 @@ wxSizer* FormBuilder::Put(Frame& frame, wxOrientation orientation) {
         auto* panel = new wxPanel(ParentOf(frame));
         frames_[&frame] = panel;
         panel->SetSizer(new wxBoxSizer(orientation));
-        window_.Bind<FrameBinder>(frame, *panel);
+        window_.Tie<FrameBinder>(frame, *panel);
         return panel->GetSizer();
     }
     auto* box = new wxStaticBox(ParentOf(frame), wxID_ANY, Shown(frame.Caption()));
     frames_[&frame] = box;
-    window_.Bind<FrameBinder>(frame, *box);
+    window_.Tie<FrameBinder>(frame, *box);
     return new wxStaticBoxSizer(box, orientation);
+}
+
+wxSizer* FormBuilder::Row(std::initializer_list<Button*> buttons) {
+    auto* row = new wxGridSizer(static_cast<int>(buttons.size()), 0, Gap());
+    for (Button* button : buttons) row->Add(Put(*button), wxSizerFlags().Expand());
+    return row;
+}
+
+void FormBuilder::Pair(wxFlexGridSizer& grid, Label& label, TextBox& box, int characters,
+                       const wxString& spoken) {
+    grid.Add(Put(label), wxSizerFlags().CentreVertical());
+    grid.Add(Put(box, characters, spoken), wxSizerFlags().CentreVertical());
 }
 
 void FormBuilder::Put(const Axis& axis, wxFlexGridSizer& grid) {
@@ -208,25 +220,25 @@ void FormBuilder::Put(const Axis& axis, wxFlexGridSizer& grid) {
     for (wxStaticText*& label : labels) {
         label = new wxStaticText(ParentOf(axis.label), wxID_ANY, wxString());
     }
-    window_.Bind<LabelBinder>(axis.label, labels);
+    window_.Tie<LabelBinder>(axis.label, labels);
     const wxString spoken(axis.spoken);
 
     wxSizer* options = Put(axis.hemisphere, wxHORIZONTAL);
-    wxRadioButton* first = Put(axis.first);
+    wxRadioButton* first = Put(axis.group.positive);
     // Lined up with the options of the other axis.
     first->SetMinSize({first->GetTextExtent("North Long").x + 3 * Gap(), -1});
     options->Add(first, middle);
     options->AddSpacer(Gap());
-    options->Add(Put(axis.second), middle);
+    options->Add(Put(axis.group.negative), middle);
 
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     row->Add(labels[1], middle);
     row->AddSpacer(Gap());
-    row->Add(Put(axis.degrees, 5, spoken + " degrees"), middle);
+    row->Add(Put(axis.group.degrees, 5, spoken + " degrees"), middle);
     row->AddSpacer(2 * Gap());
     row->Add(labels[2], middle);
     row->AddSpacer(Gap());
-    row->Add(Put(axis.minutes, 10, spoken + " minutes"), middle);
+    row->Add(Put(axis.group.minutes, 10, spoken + " minutes"), middle);
     row->AddSpacer(2 * Gap());
     row->Add(Inside(axis.hemisphere), middle);
     grid.Add(labels[0], middle);

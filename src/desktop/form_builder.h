@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <map>
 #include <vector>
 
@@ -9,6 +10,7 @@
 
 #include "desktop/glyphs.h"
 #include "desktop/line_list.h"
+#include "geometry/coordinate_group.h"
 #include "toolkit/drive_lists.h"
 #include "toolkit/list_box.h"
 #include "toolkit/picture.h"
@@ -29,14 +31,11 @@ class NativeForm;
 
 enum class LabelStyle { Plain, Section, Heading };
 
-// Degrees, minutes and hemisphere of a latitude or a longitude.
+// What is seen of a latitude or a longitude.
 struct Axis {
     Label& label;
-    TextBox& degrees;
-    TextBox& minutes;
-    Frame& hemisphere;
-    OptionButton& first;
-    OptionButton& second;
+    const CoordinateGroup& group;
+    Frame& hemisphere;   // holds the options of the group
     const char* spoken;  // how a screen reader begins the names of the boxes
 };
 
@@ -80,6 +79,10 @@ class FormBuilder {
     // Where controls stand that belong to no frame; null: on the page.
     void StandIn(wxWindow* parent) { parent_ = parent; }
 
+    // Buttons side by side, all of the same width.
+    wxSizer* Row(std::initializer_list<Button*> buttons);
+    // A line of a grid of two columns: a label, and behind it its box.
+    void Pair(wxFlexGridSizer& grid, Label& label, TextBox& box, int characters, const wxString& spoken);
     // A line of a grid of two columns: the name of the axis, and behind it all that belongs to it.
     void Put(const Axis& axis, wxFlexGridSizer& grid);
 

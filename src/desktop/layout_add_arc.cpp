@@ -15,12 +15,9 @@ void LayOutAddArc(Form& form, NativeForm& window) {
     const auto middle = wxSizerFlags().CentreVertical();
 
     auto* boxes = new wxFlexGridSizer(2, gap, gap);
-    boxes->Add(put.Put(arc.Label1), middle);
-    boxes->Add(put.Put(arc.ArcStartText, 6, "ARC Start"), middle);
-    boxes->Add(put.Put(arc.Label2), middle);
-    boxes->Add(put.Put(arc.ArcEndText, 6, "ARC End"), middle);
-    boxes->Add(put.Put(arc.Label3), middle);
-    boxes->Add(put.Put(arc.ArcRadiusText, 6, "ARC Radius"), middle);
+    put.Pair(*boxes, arc.Label1, arc.ArcStartText, 6, "ARC Start");
+    put.Pair(*boxes, arc.Label2, arc.ArcEndText, 6, "ARC End");
+    put.Pair(*boxes, arc.Label3, arc.ArcRadiusText, 6, "ARC Radius");
 
     wxSizer* turn = put.Put(arc.Frame1, wxVERTICAL);
     turn->Add(put.Put(arc.RightOption), wxSizerFlags().Border(wxALL, gap));
@@ -38,31 +35,23 @@ void LayOutAddArc(Form& form, NativeForm& window) {
     upper->AddSpacer(3 * gap);
     upper->Add(turn, wxSizerFlags(1).Top());
 
-    auto* centre = new wxGridSizer(2, 0, gap);
-    centre->Add(put.Put(arc.Command1), wxSizerFlags().Expand());
-    centre->Add(put.Put(arc.LatLongCommand), wxSizerFlags().Expand());
-
     auto* label = new wxBoxSizer(wxHORIZONTAL);
     label->Add(put.Put(arc.Label4), wxSizerFlags().CentreVertical().ReserveSpaceEvenIfHidden());
     label->AddSpacer(gap);
     label->Add(put.Put(arc.ArcLabelText, 8, "ARC Label"),
                wxSizerFlags(1).CentreVertical().ReserveSpaceEvenIfHidden());
 
-    auto* ways = new wxGridSizer(2, 0, gap);
-    ways->Add(put.Put(arc.ExitCommand), wxSizerFlags().Expand());
-    ways->Add(put.Put(arc.TransferCommand), wxSizerFlags().Expand());
-
     auto* page = put.Content();
     page->Add(upper, wxSizerFlags().Expand());
     page->AddSpacer(gap);
     page->Add(variation, wxSizerFlags().Expand().ReserveSpaceEvenIfHidden());
     page->AddSpacer(2 * gap);
-    page->Add(centre, wxSizerFlags().Expand());
+    page->Add(put.Row({&arc.Command1, &arc.LatLongCommand}), wxSizerFlags().Expand());
     page->AddSpacer(gap);
     page->Add(label, wxSizerFlags().Expand());
     page->AddSpacer(2 * gap);
     page->AddStretchSpacer();
-    page->Add(ways, wxSizerFlags().Expand());
+    page->Add(put.Row({&arc.ExitCommand, &arc.TransferCommand}), wxSizerFlags().Expand());
 }
 
 }  // namespace tarvex

@@ -23,18 +23,10 @@ void LayOutCreateWaypoint(Form& form, NativeForm& window) {
                wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, gap));
     put.StandIn(nullptr);
 
-    const auto middle = wxSizerFlags().CentreVertical();
     auto* boxes = new wxFlexGridSizer(2, gap, gap);
-    boxes->Add(put.Put(screen.Label4), middle);
-    boxes->Add(put.Put(screen.TrueCourseText, 8, "True Course"), middle);
-    boxes->Add(put.Put(screen.Label5), middle);
-    boxes->Add(put.Put(screen.DistText, 8, "Distance"), middle);
-    boxes->Add(put.Put(screen.Label6), middle);
-    boxes->Add(put.Put(screen.WaypointIDText, 8, "Waypoint ID"), middle);
-
-    auto* ways = new wxGridSizer(2, 0, gap);
-    ways->Add(put.Put(screen.Command1), wxSizerFlags().Expand());
-    ways->Add(put.Put(screen.TransferCommand), wxSizerFlags().Expand());
+    put.Pair(*boxes, screen.Label4, screen.TrueCourseText, 8, "True Course");
+    put.Pair(*boxes, screen.Label5, screen.DistText, 8, "Distance");
+    put.Pair(*boxes, screen.Label6, screen.WaypointIDText, 8, "Waypoint ID");
 
     auto* page = put.Content();
     page->Add(start, wxSizerFlags().Expand());
@@ -42,7 +34,7 @@ void LayOutCreateWaypoint(Form& form, NativeForm& window) {
     page->Add(boxes, wxSizerFlags().Expand());
     page->AddSpacer(3 * gap);
     page->AddStretchSpacer();
-    page->Add(ways, wxSizerFlags().Expand());
+    page->Add(put.Row({&screen.Command1, &screen.TransferCommand}), wxSizerFlags().Expand());
 }
 
 }  // namespace tarvex

@@ -27,7 +27,6 @@ class EditorLayout {
     wxSizer* Restriction();
     wxSizer* Commands();
     wxSizer* List();
-    wxSizer* WaysOut();
 
     // Adds a label and its box to a row.
     void Pair(wxSizer& row, Label& label, TextBox& box, int characters, const wxString& spoken);
@@ -93,12 +92,8 @@ wxSizer* EditorLayout::WaypointBoxes() {
     Box(*row, editor_.FixNameText, 9, "Fix ID");
     Pair(*row, editor_.Label1, editor_.NAVIDText, 6, "Navaid ID");
     Pair(*row, editor_.Label2, editor_.FreqText, 8, "Navaid Frequency");
-    put_.Put({editor_.DMLatLabel, editor_.DDMLatText, editor_.DMMLatText, editor_.Frame1, editor_.NLatOption,
-              editor_.SLatOption, "Latitude"},
-             *grid);
-    put_.Put({editor_.DMLongLabel, editor_.DDMLongText, editor_.DMMLongText, editor_.Frame2,
-              editor_.ELongOption, editor_.WLongOption, "Longitude"},
-             *grid);
+    put_.Put({editor_.DMLatLabel, editor_.Latitude, editor_.Frame1, "Latitude"}, *grid);
+    put_.Put({editor_.DMLongLabel, editor_.Longitude, editor_.Frame2, "Longitude"}, *grid);
     row = Row(*grid, RoomFor(editor_.Alt1Label, "Lower Altitude"));
     Box(*row, editor_.Alt1Text, 9, "Altitude or Lower Altitude");
     Pair(*row, editor_.Alt2Label, editor_.Alt2Text, 9, "Upper Altitude");
@@ -149,10 +144,6 @@ wxSizer* EditorLayout::Commands() {
 }
 
 wxSizer* EditorLayout::List() {
-    auto* moves = new wxGridSizer(2, 0, gap_);
-    moves->Add(put_.Put(editor_.MoveUp), wxSizerFlags().Expand());
-    moves->Add(put_.Put(editor_.MoveDown), wxSizerFlags().Expand());
-
     auto* heading = new wxBoxSizer(wxHORIZONTAL);
     heading->Add(put_.Put(editor_.Label6, LabelStyle::Section));
     heading->AddStretchSpacer();
@@ -163,15 +154,8 @@ wxSizer* EditorLayout::List() {
     column->AddSpacer(gap_);
     column->Add(put_.Put(editor_.WaypointList, {24, 5}, "List of Waypoints"), wxSizerFlags(1).Expand());
     column->AddSpacer(gap_);
-    column->Add(moves, wxSizerFlags().Expand());
+    column->Add(put_.Row({&editor_.MoveUp, &editor_.MoveDown}), wxSizerFlags().Expand());
     return column;
-}
-
-wxSizer* EditorLayout::WaysOut() {
-    auto* ways = new wxGridSizer(2, 0, gap_);
-    ways->Add(put_.Put(editor_.OopsCommand), wxSizerFlags().Expand());
-    ways->Add(put_.Put(editor_.SaveCommand), wxSizerFlags().Expand());
-    return ways;
 }
 
 void EditorLayout::LayOut() {
@@ -183,7 +167,7 @@ void EditorLayout::LayOut() {
     // The room on the right of the list is kept free for a picture of the procedure.
     auto* right = new wxBoxSizer(wxVERTICAL);
     right->AddStretchSpacer();
-    right->Add(WaysOut(), wxSizerFlags().Right());
+    right->Add(put_.Row({&editor_.OopsCommand, &editor_.SaveCommand}), wxSizerFlags().Right());
     auto* lower = new wxBoxSizer(wxHORIZONTAL);
     lower->Add(List(), wxSizerFlags().Expand());
     lower->AddSpacer(2 * gap_);

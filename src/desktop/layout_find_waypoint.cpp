@@ -44,10 +44,6 @@ void LayOutFindWaypoint(Form& form, NativeForm& window) {
     }
     put.StandIn(nullptr);
 
-    auto* ways = new wxGridSizer(2, 0, gap);
-    ways->Add(put.Put(search.GoBackCommand), wxSizerFlags().Expand());
-    ways->Add(put.Put(search.AddWaypoint), wxSizerFlags().Expand());
-
     auto* page = put.Content();
     page->Add(put.Put(search.Label3, LabelStyle::Heading));
     page->AddSpacer(2 * gap);
@@ -57,7 +53,7 @@ void LayOutFindWaypoint(Form& form, NativeForm& window) {
     page->AddSpacer(gap);
     page->Add(put.Inside(search.Frame1), wxSizerFlags().Expand());
     page->AddSpacer(2 * gap);
-    page->Add(ways, wxSizerFlags().Expand());
+    page->Add(put.Row({&search.GoBackCommand, &search.AddWaypoint}), wxSizerFlags().Expand());
 }
 
 }  // namespace tarvex

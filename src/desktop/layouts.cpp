@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "toolkit/failure.h"
 #include "toolkit/form.h"
 
 namespace tarvex {
@@ -23,8 +24,11 @@ constexpr std::array<ScreenLayout, 8> Layouts = {{
 }  // namespace
 
 const ScreenLayout& LayoutOf(const Form& form) {
-    return *std::find_if(Layouts.begin(), Layouts.end(),
-                         [&form](const ScreenLayout& layout) { return layout.form == form.Name(); });
+    const auto found = std::find_if(Layouts.begin(), Layouts.end(), [&form](const ScreenLayout& layout) {
+        return layout.form == form.Name();
+    });
+    if (found == Layouts.end()) throw Failure(BadArgument, "no window is laid out for " + form.Name());
+    return *found;
 }
 
 }  // namespace tarvex

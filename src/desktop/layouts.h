@@ -17,6 +17,7 @@ struct ScreenLayout {
     int roomBeside;           // characters kept free on its right, for the windows that come up beside it
 };
 
+// BadArgument (5) for a form that has none.
 const ScreenLayout& LayoutOf(const Form& form);
 
 void LayOutMenu(Form& form, NativeForm& window);

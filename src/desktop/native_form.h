@@ -38,14 +38,14 @@ class NativeForm final : public wxFrame {
 
     // All widgets stand on the page.
     wxPanel& Page() const { return *page_; }
+    // Ties a control to a widget by a binder of its kind, which the window owns.
     template <class BinderType, class... Args>
-    BinderType& Bind(Args&&... args) {
+    BinderType& Tie(Args&&... args) {
         auto binder = std::make_unique<BinderType>(*this, std::forward<Args>(args)...);
         BinderType& bound = *binder;
         binders_.push_back(std::move(binder));
         return bound;
     }
-    using wxFrame::Bind;
     // Null for a control that the window does not show.
     Binder* BinderOf(const Control& control) const;
 
