@@ -298,6 +298,31 @@ def shutting_down(machine, picture):
         poll(lambda: process.poll() is not None, "end of the program")
 
 
+def place_of(window):
+    """Left, top, width and height on the screen."""
+    shell = run("xdotool", "getwindowgeometry", "--shell", window)
+    return [int(re.search(rf"^{name}=(-?\d+)", shell, re.MULTILINE)[1]) for name in ("X", "Y", "WIDTH", "HEIGHT")]
+
+
+def double_click_on_the_way_out(machine, picture):
+    machine.set_up()
+    machine.settings(rb"C:\FS2000")
+    with machine.program() as process:
+        left, top, width, height = place_of(wait_for(MENU))
+        way_out = left + width // 2, top + height - 40  # EXIT
+        keys("Return")
+        editor = wait_for(NEW_PROCEDURE)
+        left, top, width, height = place_of(editor)
+        # Its "No Changes Just Exit" comes to lie over the menu's EXIT.
+        run("xdotool", "windowmove", "--sync", editor, str(way_out[0] - width + 220), str(way_out[1] - height + 25))
+        picture()
+        run("xdotool", "mousemove", "--sync", *map(str, way_out), "click", "--repeat", "2", "--delay", "80", "1")
+        wait_for(MENU)
+        keys("Return")
+        wait_for(NEW_PROCEDURE)
+        require(process.poll() is None, "the double click went through")
+
+
 def native_program_beside_the_prefix(machine, picture):
     machine.set_up()
     registry("add", REGISTRY_KEY, "/v", "path", "/d", r"c:\fs2000")
@@ -320,6 +345,7 @@ ROADS = [
     locked_file,
     read_only_folder,
     shutting_down,
+    double_click_on_the_way_out,
     native_program_beside_the_prefix,
 ]
 
