@@ -56,7 +56,8 @@ void FindFS2000Form::Dir1_Change() {
 
 void FindFS2000Form::Dir1_Click() {
     const std::string clicked = Dir1.List(Dir1.ListIndex());
-    if (clicked != Dir1.Path()) Choose(clicked);
+    // A click on the open folder chooses nothing, and what is chosen stays selected.
+    Choose(clicked != Dir1.Path() ? clicked : std::string(SimulatorPath));
 }
 
 void FindFS2000Form::FindDoneCommand_Click() {
