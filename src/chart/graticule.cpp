@@ -185,7 +185,7 @@ void DrawScaleBar(PlanSketch& sketch) {
     for (const Point& left :
          {Point{Inset, bottom}, {right, bottom}, {right, 2 * Inset}, {Inset, 2 * Inset}}) {
         const TurnedBox box{{left.x + width / 2, left.y - Tick / 2}, {width, words.size + 2}};
-        if (!sketch.Room().IsFree(box)) continue;
+        if (!sketch.Room().IsFree(box, PictureRoom::Over::Symbols)) continue;
         sketch.Room().Take(box);
         const double end = left.x + length;
         sketch.AddLine(PlanSketch::Layer::Symbols,

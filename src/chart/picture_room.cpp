@@ -92,29 +92,23 @@ bool PictureRoom::IsFree(const TurnedBox& box, Over over) const {
     return free;
 }
 
-void PictureRoom::Take(const TurnedBox& box) {
+void PictureRoom::Occupy(const TurnedBox& box, Cell with) {
     ForEachCell(box, [&](std::size_t cell) {
-        cells_[cell] = Cell::Taken;
+        cells_[cell] = std::max(cells_[cell], with);
         return true;
     });
 }
 
-void PictureRoom::TakeLine(const Point& first, const Point& second, double width) {
+void PictureRoom::TakeAlong(const Point& first, const Point& second, double width, Cell with) {
     const auto shown = Clipped(first, second, size_, width);
     if (!shown) return;
     const auto& [begin, end] = *shown;
     const int steps = static_cast<int>(std::hypot(end.x - begin.x, end.y - begin.y) / CellSize) + 1;
     for (int step = 0; step <= steps; ++step) {
         const double share = static_cast<double>(step) / steps;
-        Take({{begin.x + share * (end.x - begin.x), begin.y + share * (end.y - begin.y)}, {width, width}});
+        Occupy({{begin.x + share * (end.x - begin.x), begin.y + share * (end.y - begin.y)}, {width, width}},
+               with);
     }
-}
-
-void PictureRoom::TakeSymbol(const Point& middle, double size) {
-    ForEachCell({middle, {size, size}}, [&](std::size_t cell) {
-        cells_[cell] = std::max(cells_[cell], Cell::Symbol);
-        return true;
-    });
 }
 
 bool PictureRoom::HoldsSymbol(const Point& middle) const {

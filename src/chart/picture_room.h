@@ -30,16 +30,24 @@ class PictureRoom {
 
     // Never where the box would leave the picture.
     bool IsFree(const TurnedBox& box, Over over = Over::Nothing) const;
-    void Take(const TurnedBox& box);
-    void TakeLine(const Point& first, const Point& second, double width);
+    void Take(const TurnedBox& box) { Occupy(box, Cell::Taken); }
+    void TakeLine(const Point& first, const Point& second, double width) {
+        TakeAlong(first, second, width, Cell::Taken);
+    }
 
-    // A symbol's square: words had better keep off it.
-    void TakeSymbol(const Point& middle, double size);
-    // Whether a point lies on one.
+    // What words had better keep off: a symbol's square, and a line that is no part of the procedure.
+    void TakeSymbol(const Point& middle, double size) { Occupy({middle, {size, size}}, Cell::Symbol); }
+    void TakeLineAround(const Point& first, const Point& second, double width) {
+        TakeAlong(first, second, width, Cell::Line);
+    }
+    // Whether a point lies on a symbol's square.
     bool HoldsSymbol(const Point& middle) const;
 
   private:
-    enum class Cell : std::uint8_t { Free, Symbol, Taken };
+    enum class Cell : std::uint8_t { Free, Line, Symbol, Taken };
+
+    void Occupy(const TurnedBox& box, Cell with);
+    void TakeAlong(const Point& first, const Point& second, double width, Cell with);
 
     struct Range {
         int left, top, right, bottom;  // inclusive, may lie outside of the picture

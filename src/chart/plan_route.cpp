@@ -126,7 +126,8 @@ bool Place(PlanSketch& sketch, const WordBlock& whole, const WordBlock& name, co
            sketch.PlaceBlock(whole, at, gap + 10, Nothing, toward) ||
            sketch.PlaceBlock(whole, at, gap, Symbols, toward) ||
            sketch.PlaceBlock(name, at, gap, Nothing, toward) ||
-           sketch.PlaceBlock(name, at, gap, Symbols, toward);
+           sketch.PlaceBlock(name, at, gap, Symbols, toward) ||
+           sketch.PlaceBlock(name, at, gap + 24, Symbols, toward);
 }
 
 std::string_view StemOf(std::string_view name) {

@@ -12,9 +12,9 @@ Drawing PlanScene(const PlanView& view, const PlanContent& content, const TextMe
     DrawGraticule(sketch);
     PlanRoute route(sketch, content);
     route.DrawLinesAndSymbols();
-    DrawScaleBar(sketch);
     Surroundings surroundings(sketch, content, route);
     surroundings.DrawSymbols();
+    DrawScaleBar(sketch);
     route.DrawWords();
     DrawGraticuleFigures(sketch);
     surroundings.DrawWords();

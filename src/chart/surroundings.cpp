@@ -122,6 +122,11 @@ bool Surroundings::StandsForRow(const Point& at) const {
                        [&](const Point& place) { return Distance(place, at) < Near; });
 }
 
+bool Surroundings::IsCovered(const Symbol& symbol) const {
+    const double core = symbol.size / 2;
+    return !sketch_.Room().IsFree({symbol.at, {core, core}}, PictureRoom::Over::Symbols);
+}
+
 void Surroundings::DrawSymbols() {
     for (const Shown& shown : shown_) {
         if (shown.wanted) {
@@ -131,7 +136,7 @@ void Surroundings::DrawSymbols() {
         }
         if (shown.target.kind == Target::Kind::Runway) {
             DrawAirport(shown);
-        } else if (!sketch_.Room().HoldsSymbol(shown.at)) {
+        } else if (shown.wanted || !sketch_.Room().HoldsSymbol(shown.at)) {
             DrawEntry(shown);
         }
     }
@@ -151,7 +156,7 @@ void Surroundings::DrawEntry(const Shown& shown) {
         symbol.role = Role::Navaid;
         symbol.hollow = false;
     }
-    symbols_.push_back({symbol, !sketch_.Room().IsFree({shown.at, {}}, PictureRoom::Over::Symbols)});
+    symbols_.push_back({symbol, IsCovered(symbol), shown.wanted});
     sketch_.Room().TakeSymbol(shown.at, symbol.size);
 }
 
@@ -190,7 +195,7 @@ void Surroundings::DrawRunways(const ShownAirport& shown) {
         const Point& from = shown.places[end];
         const Point& to = shown.places[other];
         sketch_.AddLine(PlanSketch::Layer::Ground, {from, to}, {.role = Role::Runway});
-        sketch_.Room().TakeLine(from, to, LineRoom);
+        sketch_.Room().TakeLineAround(from, to, LineRoom);
         turns[end] = turns[other] = std::atan2(to.y - from.y, to.x - from.x) + std::numbers::pi / 2;
     }
     for (std::size_t end = 0; end < shown.places.size(); ++end) {
@@ -205,13 +210,11 @@ void Surroundings::DrawRunways(const ShownAirport& shown) {
 }
 
 void Surroundings::DrawWords() {
-    for (const auto& [symbol, onRoute] : symbols_) {
-        const bool covered = !onRoute && !sketch_.Room().IsFree({symbol.at, {}}, PictureRoom::Over::Symbols);
-        if (!covered) sketch_.AddSymbol(PlanSketch::Layer::Around, symbol);
-    }
     for (const ShownAirport& airport : airports_) LabelAirport(airport);
-    for (const Shown& shown : shown_) {
-        if (shown.target.kind != Target::Kind::Runway) LabelEntry(shown);
+    for (const EntrySymbol& each : symbols_) {
+        if (!each.onRoute && !each.wanted && IsCovered(each.symbol)) continue;
+        sketch_.AddSymbol(PlanSketch::Layer::Around, each.symbol);
+        LabelEntry(each.symbol, each.wanted);
     }
 }
 
@@ -220,8 +223,10 @@ void Surroundings::LabelAirport(const ShownAirport& shown) {
     const Role role = shown.wanted ? Role::Mark : Role::Runway;
     const WordBlock code{{{WordsOf(ShownUtf8(Trim(shown.airport.code)), role, CodeSize, true)}},
                          shown.target};
-    const bool placed = sketch_.PlaceBlock(code, shown.middle, 8, PictureRoom::Over::Nothing, {1, -0.3}) ||
-                        sketch_.PlaceBlock(code, shown.middle, 22, PictureRoom::Over::Nothing, {1, -0.3});
+    const double gaps[] = {8, 20, shown.longest / 2 + 8};
+    const bool placed = std::any_of(std::begin(gaps), std::end(gaps), [&](double gap) {
+        return sketch_.PlaceBlock(code, shown.middle, gap, PictureRoom::Over::Nothing, {1, -0.3});
+    });
     if (!placed || shown.longest < ShortestWithNames) return;
     for (std::size_t end = 0; end < shown.places.size(); ++end) {
         const RunwayEnd& runway = shown.airport.ends[end];
@@ -232,18 +237,18 @@ void Surroundings::LabelAirport(const ShownAirport& shown) {
     }
 }
 
-void Surroundings::LabelEntry(const Shown& shown) {
-    const NavigationEntry entry = EntryOf(content_.tables, shown.target);
+void Surroundings::LabelEntry(const Symbol& symbol, bool wanted) {
+    const NavigationEntry entry = EntryOf(content_.tables, symbol.target);
     constexpr double Gap = 8;
-    const bool navaid = shown.target.kind == Target::Kind::Navaid;
-    const Role role = shown.wanted ? Role::Mark : navaid ? Role::Navaid : Role::Fix;
-    WordBlock label{{{WordsOf(ShownUtf8(Trim(entry.identifier)), role, WordSize, navaid)}}, shown.target};
+    const bool navaid = symbol.target.kind == Target::Kind::Navaid;
+    const Role role = wanted ? Role::Mark : symbol.role;
+    WordBlock label{{{WordsOf(ShownUtf8(Trim(entry.identifier)), role, WordSize, navaid)}}, symbol.target};
     const auto place = [&] {
-        return sketch_.PlaceBlock(label, shown.at, Gap, PictureRoom::Over::Nothing, {1, -0.3});
+        return sketch_.PlaceBlock(label, symbol.at, Gap, PictureRoom::Over::Nothing, {1, -0.3});
     };
     if (navaid) {
         const auto& frequency =
-            content_.tables.NavaidTable[static_cast<std::size_t>(shown.target.index)].NavaidFreq;
+            content_.tables.NavaidTable[static_cast<std::size_t>(symbol.target.index)].NavaidFreq;
         label.lines[0].push_back(WordsOf(ShownUtf8(Trim(frequency)), role, WordSize));
         if (place()) return;
         label.lines[0].pop_back();

@@ -41,11 +41,12 @@ class Surroundings {
     void Find(NavigationTable table);
     void FindWanted(const Target& target);
     bool StandsForRow(const Point& at) const;
+    bool IsCovered(const Symbol& symbol) const;  // by lines or words
     void DrawEntry(const Shown& shown);
     // Its runways, or one symbol for all, once.
     void DrawAirport(const Shown& shown);
     void DrawRunways(const ShownAirport& shown);
-    void LabelEntry(const Shown& shown);
+    void LabelEntry(const Symbol& symbol, bool wanted);
     void LabelAirport(const ShownAirport& shown);
 
     PlanSketch& sketch_;
@@ -55,7 +56,8 @@ class Surroundings {
     std::vector<Shown> shown_;
     struct EntrySymbol {
         Symbol symbol;
-        bool onRoute;
+        bool onRoute;  // it lies on the procedure's line, and shows all the same
+        bool wanted;
     };
     std::vector<EntrySymbol> symbols_;  // drawn last: words of the procedure may have covered some
     std::vector<ShownAirport> airports_;

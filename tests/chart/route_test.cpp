@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "chart/route_words.h"
+#include "geometry/text_rules.h"
 #include "procedure/procedure_lines.h"
 
 namespace tarvex {
@@ -24,6 +25,11 @@ WaypointRecord Row(const char* name, const char* latitude, const char* longitude
 
 std::string PositionOf(const WaypointRecord& row) {
     const auto position = RoutePointOf(row).position;
+    if (position) {
+        const WaypointItems saved = ItemsForSave(row);
+        EXPECT_EQ(position->latitude, LeadingNumber(saved[LatitudeColumn]));
+        EXPECT_EQ(position->longitude, LeadingNumber(saved[LongitudeColumn]));
+    }
     return position ? PositionWords(*position) : "none";
 }
 
