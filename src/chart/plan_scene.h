@@ -26,8 +26,12 @@ struct PlanDrafts {
     struct Derived {
         Position start;
         Position end;
+
+        friend bool operator==(const Derived&, const Derived&) = default;
     };
     std::optional<Derived> derived;
+
+    friend bool operator==(const PlanDrafts&, const PlanDrafts&) = default;
 };
 
 // All that a chart shows, but for the part of the earth. What is referred to must outlive it.

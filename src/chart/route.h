@@ -33,6 +33,8 @@ struct RoutePoint {
     bool runway = false;          // then `altitude` is its elevation, as long as nobody changed it
     std::optional<RhumbLeg> leg;  // from the row before, if both have a position
     double distance = 0;          // nautical miles along the legs from the first row to this one
+
+    friend bool operator==(const RoutePoint&, const RoutePoint&) = default;
 };
 
 // A procedure in flying order. `route.points[i]` is row i.

@@ -55,6 +55,12 @@ inline const Message UnknownSaveError{
     .icon = MessageIcon::Critical,
 };
 
+// Saving a picture.
+inline Message PictureNotSaved(const std::string& path, const std::string& reason) {
+    return {.prompt = "The picture " + path + " could not be saved:\r\n" + reason + ".",
+            .title = "Picture not saved"};
+}
+
 // Adding a waypoint.
 inline const Message AddWhileSelected{
     .prompt =

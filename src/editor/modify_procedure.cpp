@@ -32,6 +32,7 @@ constexpr ModeCaptions Captions[] = {
 
 ModifyProcedure::ModifyProcedure(const Workplace& workplace, const EditorTools& tools)
     : Form(workplace.host, "ModifyProcedure", "Procedure Editor"),
+      Pictures(*this, workplace, tools),
       workplace_(workplace),
       state_(workplace.state),
       dialogue_(workplace.dialogue),
@@ -147,6 +148,7 @@ void ModifyProcedure::RowsChanged(const ProcedureRows::Change& change) {
             break;
     }
     ShowRowsInUse();
+    Pictures.RowsChanged(change);
 }
 
 void ModifyProcedure::LetChooseRunway(bool usable) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editor/editor_tools.h"
+#include "editor/procedure_picture.h"
 #include "geometry/coordinate_group.h"
 #include "navigation/search_hit.h"
 #include "procedure/procedure_rows.h"
@@ -135,6 +136,10 @@ class ModifyProcedure : public Form, private RowsObserver {
     void AtAboveAtBelowOption_Click();
     void RwySpecificCheck_Click();
 
+    // The boxes as the row that Add would make of them. Its decimals are those of the last search whatever
+    // the boxes hold: degrees and minutes are the current form.
+    WaypointRecord BoxesAsRow() const;
+
     // Rows (modify_procedure_rows.cpp, modify_procedure_select.cpp).
     void WaypointList_Click();
     void AddWaypointCommand_Click();
@@ -152,6 +157,15 @@ class ModifyProcedure : public Form, private RowsObserver {
     // Puts the name and the position of a found entry into the boxes. An airport entry becomes a runway
     // waypoint in an approach.
     void TakeHit(const SearchHit& hit);
+    // What a search for the entry, clicked and transferred, would do: into the boxes, as the centre of an ARC
+    // (a navaid), as the start of a derived waypoint. The two tools are opened for it.
+    void TakeEntry(const SearchHit& hit);
+    void CenterArcOn(const SearchHit& hit);
+    void DeriveFrom(const SearchHit& hit);
+
+    ProcedurePicture Pictures;
+
+    void EventEnded() override { Pictures.Update(); }
 
   private:
     // Connects the events of the controls with the operations.
@@ -186,6 +200,8 @@ class ModifyProcedure : public Form, private RowsObserver {
     void SearchForBoxes(std::string_view kind);
     void SearchForCenter();
     void SearchForStart(std::string_view kind);
+    void TakeStart(std::string_view kind, const SearchHit& hit);
+    void Chose(std::string_view kind, const SearchHit& hit);
     void FillPosition(const SearchHit& hit);
     void AppendArcPoint(const std::string& name, const PositionTexts& position);
     void TakeDerived(const std::string& name, const PositionTexts& position);

@@ -40,28 +40,6 @@ std::pair<const Message*, TextBox*> MissingForAdd(ModifyProcedure& form) {
     return {nullptr, nullptr};
 }
 
-// The boxes as a new row. Its decimals are those of the last search whatever the boxes hold: degrees and
-// minutes are the current form.
-WaypointRecord NewRow(const ModifyProcedure& form, const SearchVariables& search) {
-    WaypointRecord row;
-    row.WaypointID = form.NAVIDText.Text().empty() ? form.FixNameText.Text() : form.NAVIDText.Text();
-    row.WaypointType = search.RunwayTransfer != False ? "15" : "0";
-    row.LatDecimal = NumberText(search.TransferLatDecimal);
-    row.LatDegrees = form.Latitude.SignedDegrees();
-    row.LatMinutes = form.DMMLatText.Text();
-    row.CoordinatesEdited = True;
-    row.LongDecimal = NumberText(search.TransferLongDecimal);
-    row.LongDegrees = form.Longitude.SignedDegrees();
-    row.LongMinutes = form.DMMLongText.Text();
-    row.Frequency = form.FixNameText.Text().empty() ? form.FreqText.Text() : "0";
-    row.Airspeed = OrZero(form.AirspeedText);
-    row.Altitude2 = OrZero(form.Alt2Text);
-    row.Altitude1 =
-        form.Alt2Text.Text().empty() ? OrZero(form.Alt1Text) : std::string_view(form.Alt1Text.Text());
-    row.RestrictionType = RestrictionCode(form);
-    return row;
-}
-
 void ForceSign(std::string& decimal, bool positive) {
     const double number = LeadingNumber(decimal);
     if (positive && number < 0) {
@@ -85,6 +63,25 @@ void ModifyProcedure::ShowRowsInUse() {
     RowsLabel.SetForeColor(rows >= ManyRows ? Red : Black);
 }
 
+WaypointRecord ModifyProcedure::BoxesAsRow() const {
+    WaypointRecord row;
+    row.WaypointID = NAVIDText.Text().empty() ? FixNameText.Text() : NAVIDText.Text();
+    row.WaypointType = state_.RunwayTransfer != False ? "15" : "0";
+    row.LatDecimal = NumberText(state_.TransferLatDecimal);
+    row.LatDegrees = Latitude.SignedDegrees();
+    row.LatMinutes = DMMLatText.Text();
+    row.CoordinatesEdited = True;
+    row.LongDecimal = NumberText(state_.TransferLongDecimal);
+    row.LongDegrees = Longitude.SignedDegrees();
+    row.LongMinutes = DMMLongText.Text();
+    row.Frequency = FixNameText.Text().empty() ? FreqText.Text() : "0";
+    row.Airspeed = OrZero(AirspeedText);
+    row.Altitude2 = OrZero(Alt2Text);
+    row.Altitude1 = Alt2Text.Text().empty() ? OrZero(Alt1Text) : std::string_view(Alt1Text.Text());
+    row.RestrictionType = RestrictionCode(*this);
+    return row;
+}
+
 void ModifyProcedure::AddWaypointCommand_Click() {
     ClearDataCommand.SetEnabled(true);
     if (!WaypointList.Text().empty()) {
@@ -103,8 +100,7 @@ void ModifyProcedure::AddWaypointCommand_Click() {
     }
     BuildFilename();
     // Both names may be filled: the row is then named for the navaid and the line for the fix.
-    state_.Rows.Append(NewRow(*this, state_),
-                       FixNameText.Text().empty() ? NAVIDText.Text() : FixNameText.Text());
+    state_.Rows.Append(BoxesAsRow(), FixNameText.Text().empty() ? NAVIDText.Text() : FixNameText.Text());
     ClearDataCommand_Click();
     LatEdited = False;
     LongEdited = False;

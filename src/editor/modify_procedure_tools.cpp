@@ -105,10 +105,38 @@ void ModifyProcedure::CreateWaypointCommand_Click() {
 
 void ModifyProcedure::SearchForStart(std::string_view kind) {
     OpenSearch(kind, *tools_.createWaypointForm.Get(),
-               [this, &entry = SearchKindNamed(kind)](const SearchHit& hit) {
-                   FillPosition(hit);
-                   tools_.createWaypointForm.Get()->TakeStart(hit.position, entry.picked);
-               });
+               [this, kind = std::string(kind)](const SearchHit& hit) { TakeStart(kind, hit); });
+}
+
+void ModifyProcedure::TakeStart(std::string_view kind, const SearchHit& hit) {
+    FillPosition(hit);
+    tools_.createWaypointForm.Get()->TakeStart(hit.position, SearchKindNamed(kind).picked);
+}
+
+// As the search leaves it behind a click on what it found.
+void ModifyProcedure::Chose(std::string_view kind, const SearchHit& hit) {
+    state_.SearchKind = kind;
+    Remember(hit, state_);
+}
+
+void ModifyProcedure::TakeEntry(const SearchHit& hit) {
+    ClearDataCommand_Click();
+    Chose(SearchKindFor(SearchCaller::Editor, hit.table).name, hit);
+    TakeHit(hit);
+}
+
+void ModifyProcedure::CenterArcOn(const SearchHit& hit) {
+    AddArcCommand_Click();
+    Chose(SearchKindFor(SearchCaller::ArcDesigner, hit.table).name, hit);
+    tools_.addARC.Get()->TakeCenter(hit.identifier, hit.position);
+}
+
+void ModifyProcedure::DeriveFrom(const SearchHit& hit) {
+    tools_.createWaypointForm.Unload();
+    CreateWaypointCommand_Click();
+    const std::string_view kind = SearchKindFor(SearchCaller::StartPoint, hit.table).name;
+    Chose(kind, hit);
+    TakeStart(kind, hit);
 }
 
 void ModifyProcedure::TakeDerived(const std::string& name, const PositionTexts& position) {

@@ -45,6 +45,9 @@ class FindWaypointForm : public Form {
     void AddWaypoint_Click();
     void GoBackCommand_Click() { Unload(); }
 
+    // The table that is searched.
+    NavigationTable Table() const { return kind_->table; }
+
     // Takes the hit that is transferred.
     std::function<void(const SearchHit&)> OnTransfer;
 

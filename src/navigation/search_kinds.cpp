@@ -38,4 +38,12 @@ const SearchKindEntry& SearchKindNamed(std::string_view name) {
     return *found;
 }
 
+const SearchKindEntry& SearchKindFor(SearchCaller caller, NavigationTable table) {
+    const auto found = std::find_if(Kinds.begin(), Kinds.end(), [&](const SearchKindEntry& kind) {
+        return kind.caller == caller && kind.table == table;
+    });
+    if (found == Kinds.end()) throw Failure(BadArgument, "no search over that table for that screen");
+    return *found;
+}
+
 }  // namespace tarvex

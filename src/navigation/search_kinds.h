@@ -23,5 +23,7 @@ struct SearchKindEntry {
 
 // BadArgument (5) when there is no such kind.
 const SearchKindEntry& SearchKindNamed(std::string_view name);
+// The same for a caller that has no search over the table.
+const SearchKindEntry& SearchKindFor(SearchCaller caller, NavigationTable table);
 
 }  // namespace tarvex

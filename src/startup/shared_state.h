@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 
+#include "chart/position_grid.h"
 #include "geometry/tool_variables.h"
 #include "navigation/navigation_tables.h"
 #include "navigation/search_variables.h"
@@ -28,6 +30,9 @@ struct SharedState : Settings, ProcedureVariables, SearchVariables, ArcVariables
     const std::int32_t& WaypointCount = Rows.Count();
 
     NavigationTables Navigation;
+    int NavigationLoads = 0;  // how often the tables were filled
+    // Where their entries are; made when a picture first needs it, gone when they are filled anew.
+    std::unique_ptr<const PositionGrid> Grid;
 };
 
 }  // namespace tarvex

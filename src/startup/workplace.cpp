@@ -6,6 +6,8 @@ namespace tarvex {
 
 void Workplace::FillNavigationTables() const {
     findWaypointForm.Unload();
+    state.Grid.reset();
+    ++state.NavigationLoads;
     const auto leftOut = LoadNavigationData(platform.files, state.SimulatorPath, state.Navigation);
     if (!leftOut.empty()) dialogue.Ask(EntriesLeftOut(leftOut));
 }

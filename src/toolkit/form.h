@@ -62,6 +62,9 @@ class Form {
 
     virtual void Form_Load() {}
     virtual void Form_Unload() {}
+    // Behind each event of the outside world while the form is on the screen: brings up to date what only
+    // shows something, without rules or messages.
+    virtual void EventEnded() {}
 
   private:
     friend class Control;

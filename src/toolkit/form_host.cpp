@@ -23,6 +23,17 @@ void FormHost::RunEvent(const std::function<void()>& event) {
         return;
     }
     ++eventDepth_;
+    RunOutermost(event);
+    if (!stopped_) {
+        RunOutermost([this] {
+            for (Form* form : visible_) form->EventEnded();
+        });
+    }
+    --eventDepth_;
+    graveyard_.clear();
+}
+
+void FormHost::RunOutermost(const std::function<void()>& event) {
     try {
         try {
             event();
@@ -34,8 +45,6 @@ void FormHost::RunEvent(const std::function<void()>& event) {
     } catch (const ProgramStopped& stop) {
         stopped_ = stop;
     }
-    --eventDepth_;
-    graveyard_.clear();
 }
 
 void FormHost::Raised(Form& form) {

@@ -62,6 +62,7 @@ class FormHost {
   private:
     friend class FormSlotBase;
 
+    void RunOutermost(const std::function<void()>& event);
     void BringToFront(Form& form);
     // Takes the focus from a form that is no longer visible, to the form `opener` holds if it is on the
     // screen, else to the one in front.

@@ -254,6 +254,15 @@ Road::States Road::StatesNow() const {
     return states;
 }
 
+// The pictures of the editor show once more what its rows and boxes hold; a road that is about them sees them
+// by name.
+bool IsOfPictures(std::string_view name) {
+    constexpr std::string_view names[] = {"FitCommand",    "LegsList",           "PictureLabel",
+                                          "PictureTabs",   "PlanPicture",        "ProfilePicture",
+                                          "ZoomInCommand", "SavePictureCommand", "ZoomOutCommand"};
+    return std::find(std::begin(names), std::end(names), name) != std::end(names);
+}
+
 void Road::NoteChanges(const States& before) {
     if (const std::string place = Place(); place.substr(0, place.find('@')) != place_) {
         Note(place);
@@ -281,7 +290,7 @@ void Road::NoteChanges(const States& before) {
     std::string line;
     for (const auto& [name, now] : StatesNow()) {
         const auto found = before.find(name);
-        if (found == before.end()) continue;
+        if (found == before.end() || IsOfPictures(name.substr(name.find('.') + 1))) continue;
         std::string changes;
         if (now.text != found->second.text) changes += " " + Quoted(now.text);
         for (const auto& [part, value] : now.parts) {
