@@ -1,9 +1,12 @@
+#include <memory>
+
 #include <wx/anybutton.h>
 #include <wx/checkbox.h>
 #include <wx/listbox.h>
 #include <wx/radiobut.h>
 #include <wx/textctrl.h>
 
+#include "desktop/editor_rooms.h"
 #include "desktop/form_builder.h"
 #include "desktop/layouts.h"
 #include "desktop/native_form.h"
@@ -27,6 +30,7 @@ class EditorLayout {
     wxSizer* Restriction();
     wxSizer* Commands();
     wxSizer* List();
+    wxSizer* Pictures();
 
     // Adds a label and its box to a row.
     void Pair(wxSizer& row, Label& label, TextBox& box, int characters, const wxString& spoken);
@@ -158,30 +162,50 @@ wxSizer* EditorLayout::List() {
     return column;
 }
 
+wxSizer* EditorLayout::Pictures() {
+    ProcedurePicture& pictures = editor_.Pictures;
+    wxWindow* tabs = put_.Put(pictures.PictureTabs, "Pictures");
+    put_.Put(pictures.PlanPicture);
+    put_.Put(pictures.ProfilePicture);
+    put_.Put(pictures.LegsList, {20, 4}, "Legs");
+    tabs->SetMinSize({40 * gap_, 22 * gap_});
+
+    auto* bar = new wxBoxSizer(wxVERTICAL);
+    bar->AddSpacer(4 * gap_);  // beside the picture, not its tabs
+    bar->Add(put_.PutSymbol(pictures.ZoomInCommand, Glyph::Plus, "Zoom in"));
+    bar->AddSpacer(gap_ / 2);
+    bar->Add(put_.PutSymbol(pictures.ZoomOutCommand, Glyph::Minus, "Zoom out"));
+    bar->AddSpacer(gap_ / 2);
+    bar->Add(put_.PutSymbol(pictures.FitCommand, Glyph::Fit, "Fit"));
+    bar->AddStretchSpacer();
+    bar->Add(put_.PutSymbol(pictures.SavePictureCommand, Glyph::Save, "Save picture"));
+
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    row->Add(tabs, wxSizerFlags(1).Expand());
+    row->AddSpacer(gap_ / 2);
+    row->Add(bar, wxSizerFlags().Expand());
+    return row;
+}
+
 void EditorLayout::LayOut() {
-    auto* upper = new wxBoxSizer(wxHORIZONTAL);
-    upper->Add(WaypointBoxes());
-    upper->Add(put_.Line(wxVERTICAL), wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT, 2 * gap_));
-    upper->Add(Commands());
-
-    // The room on the right of the list is kept free for a picture of the procedure.
-    auto* right = new wxBoxSizer(wxVERTICAL);
-    right->AddStretchSpacer();
-    right->Add(put_.Row({&editor_.OopsCommand, &editor_.SaveCommand}), wxSizerFlags().Right());
-    auto* lower = new wxBoxSizer(wxHORIZONTAL);
-    lower->Add(List(), wxSizerFlags().Expand());
-    lower->AddSpacer(2 * gap_);
-    lower->Add(right, wxSizerFlags(1).Expand());
-
     auto* page = put_.Content();
     page->Add(put_.Put(editor_.ActionLabel, LabelStyle::Heading));
     page->AddSpacer(2 * gap_);
     page->Add(Names(), wxSizerFlags().Expand());
     page->Add(put_.Line(wxHORIZONTAL), wxSizerFlags().Expand().Border(wxTOP | wxBOTTOM, 2 * gap_));
-    page->Add(upper, wxSizerFlags().Expand());
-    window_.SetSpare(*upper);
-    page->Add(put_.Line(wxHORIZONTAL), wxSizerFlags().Expand().Border(wxTOP | wxBOTTOM, 2 * gap_));
-    page->Add(lower, wxSizerFlags(1).Expand());
+    auto* body = new wxBoxSizer(wxHORIZONTAL);
+    page->Add(body, wxSizerFlags(1).Expand());
+    const EditorRooms::Parts parts{.boxes = WaypointBoxes(),
+                                   .commands = Commands(),
+                                   .list = List(),
+                                   .picture = Pictures(),
+                                   .pictureWords = put_.PutShort(editor_.Pictures.PictureLabel),
+                                   .waysOut = put_.Row({&editor_.OopsCommand, &editor_.SaveCommand})};
+    const auto rooms = std::make_shared<EditorRooms>(window_, *body, parts, gap_);
+    window_.Page().Bind(wxEVT_SIZE, [rooms](wxSizeEvent& event) {
+        rooms->Follow();
+        event.Skip();
+    });
 }
 
 }  // namespace

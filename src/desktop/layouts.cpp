@@ -11,14 +11,14 @@ namespace tarvex {
 namespace {
 
 constexpr std::array<ScreenLayout, 8> Layouts = {{
-    {"InitialLoad", LayOutMenu, "", false, 0, 0},
-    {"FindFS2000Form", LayOutFindFolder, "", false, 6, 0},
-    {"PickFile", LayOutPicker, "InitialLoad", false, 10, 0},
-    {"ModifyProcedure", LayOutEditor, "", false, 8, 60},
-    {"FindWaypointForm", LayOutFindWaypoint, "ModifyProcedure", true, 4, 0},
-    {"AddARC", LayOutAddArc, "ModifyProcedure", true, 0, 0},
-    {"CreateWaypointForm", LayOutCreateWaypoint, "ModifyProcedure", true, 0, 0},
-    {"LatLongForm", LayOutLatLong, "ModifyProcedure", true, 0, 0},
+    {"InitialLoad", LayOutMenu, "", false, 0, 0, 0},
+    {"FindFS2000Form", LayOutFindFolder, "", false, 6, 0, 0},
+    {"PickFile", LayOutPicker, "InitialLoad", false, 10, 0, 0},
+    {"ModifyProcedure", LayOutEditor, "", false, 20, 70, 60},
+    {"FindWaypointForm", LayOutFindWaypoint, "ModifyProcedure", true, 4, 0, 0},
+    {"AddARC", LayOutAddArc, "ModifyProcedure", true, 0, 0, 0},
+    {"CreateWaypointForm", LayOutCreateWaypoint, "ModifyProcedure", true, 0, 0, 0},
+    {"LatLongForm", LayOutLatLong, "ModifyProcedure", true, 0, 0, 0},
 }};
 
 }  // namespace

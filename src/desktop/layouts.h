@@ -14,6 +14,7 @@ struct ScreenLayout {
     std::string_view beside;  // the form whose window it comes up beside; empty: in the middle
     bool floats;              // stays above that window
     int roomyLines;           // lines of text by which it comes up higher than it need be, for its lists
+    int roomyColumns;         // characters by which it comes up wider, for its pictures
     int roomBeside;           // characters kept free on its right, for the windows that come up beside it
 };
 

@@ -74,6 +74,7 @@ void PictureBinder::OnPaint(wxPaintEvent&) {
     wxAutoBufferedPaintDC paper(&widget_);
     const std::unique_ptr<wxGraphicsContext> canvas(wxGraphicsContext::Create(paper));
     const wxSize size = widget_.GetClientSize();
+    TellRoom();  // a size may have come while the program itself laid its window out
     canvas->PushState();
     canvas->Scale(scale_, scale_);
     Painter(*canvas, ThemePalette()).Paint(picture_.Shown());
@@ -86,7 +87,12 @@ void PictureBinder::OnPaint(wxPaintEvent&) {
 
 void PictureBinder::OnSize(wxSizeEvent& event) {
     event.Skip();
+    TellRoom();
+}
+
+void PictureBinder::TellRoom() {
     const Point corner = PlaceOf({widget_.GetClientSize().x, widget_.GetClientSize().y});
+    if (picture_.Room() == Size{corner.x, corner.y}) return;
     PostLook([this, corner](UserDoor& door) { return door.Resize(picture_, {corner.x, corner.y}); });
 }
 

@@ -21,6 +21,7 @@ class PictureBinder final : public Binder {
     Point PlaceOf(const wxPoint& pixel) const;
     void OnPaint(wxPaintEvent& event);
     void OnSize(wxSizeEvent& event);
+    void TellRoom();
     void OnButtonDown(wxMouseEvent& event);
     void OnMotion(wxMouseEvent& event);
     void OnButtonUp(wxMouseEvent& event);

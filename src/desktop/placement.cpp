@@ -36,8 +36,11 @@ void FitToContent(NativeForm& window, const ScreenLayout& layout) {
     window.SetSizer(sizer);
     sizer->SetSizeHints(&window);
     wxSize size = window.GetSize();
-    const int most = ScreenOf(window).height - TitleHeight - Gap;
-    size.y = std::max(size.y, std::min(size.y + layout.roomyLines * window.GetCharHeight(), most));
+    const wxSize screen = ScreenOf(window).GetSize();
+    const int highest = screen.y - TitleHeight - Gap;
+    const int widest = screen.x - layout.roomBeside * window.GetCharWidth();
+    size.y = std::max(size.y, std::min(size.y + layout.roomyLines * window.GetCharHeight(), highest));
+    size.x = std::max(size.x, std::min(size.x + layout.roomyColumns * window.GetCharWidth(), widest));
     window.SetSize(size);
 }
 
