@@ -47,6 +47,8 @@ std::string KindOf(const Control& control) {
     if (dynamic_cast<const CheckBox*>(&control)) return "check";
     if (dynamic_cast<const Frame*>(&control)) return "frame";
     if (dynamic_cast<const ListBox*>(&control)) return "list";
+    if (dynamic_cast<const Picture*>(&control)) return "picture";
+    if (dynamic_cast<const Tabs*>(&control)) return "tabs";
     if (dynamic_cast<const FileList*>(&control)) return "files";
     if (dynamic_cast<const FolderList*>(&control)) return "folders";
     return "drives";
