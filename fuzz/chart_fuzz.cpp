@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "chart/even_letters.h"
 #include "chart/plan_scene.h"
 #include "chart/plan_view.h"
 #include "chart/profile_scene.h"
@@ -39,11 +40,7 @@ std::vector<std::string_view> Parts(std::string_view text, char mark, std::size_
     return parts;
 }
 
-struct EvenLetters : TextMeasure {
-    double Width(const std::string& text, double size, bool) const override {
-        return 0.55 * size * static_cast<double>(text.size());
-    }
-};
+using testing::EvenLetters;
 
 struct Input {
     std::vector<WaypointRecord> rows;

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
+#include "chart/even_letters.h"
 #include "chart/svg_writer.h"
 
 namespace tarvex {
@@ -10,11 +11,7 @@ namespace {
 
 using Kind = AltitudeRestriction::Kind;
 
-struct EvenLetters : TextMeasure {
-    double Width(const std::string& text, double size, bool) const override {
-        return 0.55 * size * static_cast<double>(text.size());
-    }
-};
+using testing::EvenLetters;
 
 RoutePoint At(double latitude, AltitudeRestriction altitude, const char* name) {
     RoutePoint point;
