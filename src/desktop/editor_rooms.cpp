@@ -22,15 +22,22 @@ EditorRooms::EditorRooms(NativeForm& window, wxBoxSizer& body, const Parts& part
       level_(LineOn(window, wxLI_HORIZONTAL)),
       upright_(LineOn(window, wxLI_VERTICAL)),
       besidePicture_(LineOn(window, wxLI_VERTICAL)) {
-    Arrange(true);
-    leastWide_ = window.Page().GetSizer()->CalcMin();
-    Arrange(false);
+    for (const bool wide : {true, false}) {
+        Arrange(wide);
+        (wide ? leastWide_ : leastHigh_) = window.Page().GetSizer()->CalcMin();
+    }
 }
 
+// The arrangement that leaves more to the picture.
 bool EditorRooms::HasRoomForWide() const {
     const wxSize room = window_.Page().GetClientSize();
-    const int forPicture = 10 * gap_;  // more than it needs
-    return room.x >= leastWide_.x + forPicture && room.y >= leastWide_.y;
+    if (room.x < leastWide_.x || room.y < leastWide_.y) return false;
+    const wxSize least = parts_.picture->CalcMin();
+    const int leftOfIt = parts_.list->CalcMin().x + 2 * gap_;
+    const int aboveIt = parts_.boxes->CalcMin().y + 4 * gap_;
+    const int wideArea = (room.x - leastWide_.x + least.x) * (room.y - leastHigh_.y + least.y + aboveIt);
+    const int highArea = (room.x - leftOfIt) * (room.y - leastHigh_.y + least.y);
+    return wideArea > highArea;
 }
 
 void EditorRooms::Follow() {

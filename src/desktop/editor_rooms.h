@@ -48,7 +48,8 @@ class EditorRooms {
     wxWindow* upright_;
     wxWindow* besidePicture_;
     bool wide_ = false;
-    wxSize leastWide_;                                 // of the page
+    wxSize leastWide_;  // of the page, arranged so
+    wxSize leastHigh_;
     std::vector<std::pair<wxSizer*, wxSizer*>> held_;  // a part behind what holds it
 };
 

@@ -155,7 +155,8 @@ void FormBuilder::FillPage(const Control& content, wxWindow* widget) {
     const auto page = pages_.find(&content);
     if (page == pages_.end()) return;
     page->second->SetSizer(new wxBoxSizer(wxVERTICAL));
-    page->second->GetSizer()->Add(widget, wxSizerFlags(1).Expand());
+    // It has its place also while another page is shown.
+    page->second->GetSizer()->Add(widget, wxSizerFlags(1).Expand().ReserveSpaceEvenIfHidden());
 }
 
 LineList* FormBuilder::Put(ColumnList& list, wxSize characters, const wxString& spoken) {
