@@ -308,19 +308,23 @@ def double_click_on_the_way_out(machine, picture):
     machine.set_up()
     machine.settings(rb"C:\FS2000")
     with machine.program() as process:
-        left, top, width, height = place_of(wait_for(MENU))
-        way_out = left + width // 2, top + height - 40  # EXIT
+        wait_for(MENU)
         keys("Return")
         editor = wait_for(NEW_PROCEDURE)
         left, top, width, height = place_of(editor)
-        # Its "No Changes Just Exit" comes to lie over the menu's EXIT.
-        run("xdotool", "windowmove", "--sync", editor, str(way_out[0] - width + 220), str(way_out[1] - height + 25))
+        way_out = left + width - 225, top + height - 30  # "No Changes Just Exit"
+        keys(*["shift+Tab"] * 5, "Return")  # Find Fix
+        search = poll(lambda: window_titled("Waypoint"), "search")
+        poll(lambda: picture_of(search), "painted search")
+        _, _, width, height = place_of(search)
+        # Its "Oops Go Back" comes to lie over the editor's way out.
+        run("xdotool", "windowmove", "--sync", search, str(way_out[0] - width // 4), str(way_out[1] - height + 10))
         picture()
-        run("xdotool", "mousemove", "--sync", *map(str, way_out), "click", "--repeat", "2", "--delay", "80", "1")
-        wait_for(MENU)
-        keys("Return")
-        wait_for(NEW_PROCEDURE)
-        require(process.poll() is None, "the double click went through")
+        run("xdotool", "mousemove", "--sync", "--window", search, str(width // 4), str(height - 25),
+            "click", "--repeat", "2", "--delay", "80", "1")
+        poll(lambda: not window_titled("Waypoint"), "end of the search")
+        time.sleep(0.5)
+        require(window_titled(NEW_PROCEDURE) and not window_titled(MENU), "the double click went through")
 
 
 def native_program_beside_the_prefix(machine, picture):
