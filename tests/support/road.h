@@ -21,10 +21,12 @@ namespace tarvex::testing {
 //     Name#line         picks a line: by number from 0, a file by name, a folder or drive by path
 //     Name>line         the same with a double click
 //     to Name           moves the focus
-//     key Name          Tab, BackTab, Escape, Delete, CtrlUp, CtrlDown, CtrlS or Enter, in the screen in
-//     front close Screen      closes the window front Screen      brings the window to the front Yes, No
-//     answers the next question; without an answer it gets its default put Name=text     an operation, not
-//     the user, puts the text into the box call Name         an operation runs the button's rule
+//     key Name          Tab, BackTab, Escape, Delete, CtrlUp, CtrlDown, CtrlS or Enter, in front
+//     close Screen      closes the window
+//     front Screen      brings the window to the front
+//     Yes, No           answers the next question; without an answer it gets its default
+//     put Name=text     an operation, not the user, puts the text into the box
+//     call Name         an operation runs the button's rule
 //
 // A name is that of a control on the screen nearest to the front that has one; "Screen.Name" is that
 // screen's.
