@@ -12,7 +12,9 @@ TEST(DisplayTextTest, BytesAreShownAsTheirCharacters) {
     };
     const Case cases[] = {
         {"KJFK & Co", U"KJFK & Co"},
-        {"\x80\x93\x9F\xE9", U"\u20AC\u201C\u0178\u00E9"},                    // Windows Latin-1
+        {"\x80\x82\x83\x84\x85\x86\x87\x88\x89\x8A\x8B\x8C\x8E\x91\x92\x93",
+         U"€‚ƒ„…†‡ˆ‰Š‹ŒŽ‘’“"},  // Windows Latin-1
+        {"\x94\x95\x96\x97\x98\x99\x9A\x9B\x9C\x9E\x9F\xA0\xE9", U"”•–—˜™š›œžŸ\u00A0é"},
         {"\xC3\xA9\xE2\x82\xAC\xF0\x9F\x9B\xAB", U"\u00E9\u20AC\U0001F6EB"},  // UTF-8
         {"\xC3", U"\u00C3"},                                                  // UTF-8 cut off
         {"\xC0\xAF\xE0\x80\x80", U"\u00C0\u00AF\u00E0\u20AC\u20AC"},          // overlong
