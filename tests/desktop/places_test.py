@@ -74,6 +74,8 @@ class Places(WindowTest):
     def test_a_size_lasts_and_the_room_goes_to_the_list(self):
         program = self.start()
         editor = self.edit(program)
+        xdotool("getactivewindow", "windowsize", "1080", "720")
+        until(lambda: editor.root.area()[3] <= 760, "a smaller size")
         list_before, add_before = editor.node("WaypointList").area(), editor.node("AddWaypointCommand").area()
         xdotool("getactivewindow", "windowmove", "0", "0", "windowsize", "1300", "900")
         until(lambda: editor.root.area()[2] >= 1300, "the other size")
