@@ -1,11 +1,14 @@
 // The sample simulator folder that the project ships: each of its files passes through the program unharmed.
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
 
+#include "chart/palette.h"
+#include "chart/svg_writer.h"
 #include "support/road.h"
 
 namespace tarvex::testing {
@@ -78,6 +81,43 @@ TEST_F(SampleTest, TheApproachOfAnOlderVersionGetsItsRunwayWaypoint) {
               "      W,RW04L,,15,40.622018,-73.785585,0,0,0,13,0,\n"
               "      W,CRI,,0,40.612472,-73.894444,112.30,0,0,3000,0,\n"
               "    wrote C:\\Tarvex\\Tarvex.INI: C:\\FS2000\xC2\xB6N\xC2\xB6W\xC2\xB6W\xC2\xB6\n");
+}
+
+// The pictures of procedures as they were looked at and found right; TARVEX_RECORD=1 writes them anew.
+TEST_F(SampleTest, ItsPicturesStayAsTheyAre) {
+    struct Case {
+        const char* acts;
+        const char* name;
+        const char* meanwhile;  // what is done in the editor
+    };
+    const Case cases[] = {
+        {"ModifySTAR | FileList#KJFK-CAMRN4.wst", "selected", "WaypointList#2 | DMMLongText=20"},
+        {"ModifyIAP | FileList#KLAX-ILS25L.wap", "arc",
+         "AddArcCommand | Command1 | SearchText=LAX | SearchCommand | AddWaypoint | ArcStartText=30 | "
+         "ArcEndText=110 | ArcRadiusText=9 | RightOption"},
+        {"ModifyDP | FileList#KSAN-CWARD2.wsd", "derived",
+         "CreateWaypointCommand | NavaidCommand | SearchText=MZB | SearchCommand | AddWaypoint | "
+         "TrueCourseText=300 | DistText=25"},
+        {"CreateSTAR", "airport", "AptNameText=KSFO | FindFixCommand | SearchText=BRIXX | SearchCommand"},
+    };
+    for (const auto& [acts, name, meanwhile] : cases) {
+        road.Do(acts);
+        UserDoor& door = road.program->door;
+        Form& editor = *road.program->modifyProcedure.Get();
+        std::string pictures;
+        for (int page = 0; const char* picture : {"PlanPicture", "ProfilePicture"}) {
+            door.ShowPage(dynamic_cast<Tabs&>(*editor.Find("PictureTabs")), page++);
+            auto& shown = dynamic_cast<Picture&>(*editor.Find(picture));
+            door.Resize(shown, {700, 420});
+            if (page == 1) road.Do(meanwhile);
+            pictures += SvgText(shown.Shown(), LightPalette(), name);
+        }
+        const auto path = std::filesystem::path(TARVEX_PICTURES_FOLDER) / (std::string(name) + ".txt");
+        if (std::getenv("TARVEX_RECORD") != nullptr) std::ofstream(path, std::ios::binary) << pictures;
+        std::ifstream file(path, std::ios::binary);
+        EXPECT_TRUE(pictures == std::string(std::istreambuf_iterator<char>(file), {})) << name;
+        road.Do("close ModifyProcedure");
+    }
 }
 
 }  // namespace
