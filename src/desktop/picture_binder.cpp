@@ -36,6 +36,7 @@ PictureBinder::PictureBinder(NativeForm& window, Picture& picture, wxWindow& wid
     widget.Bind(wxEVT_SIZE, &PictureBinder::OnSize, this);
     widget.Bind(wxEVT_LEFT_DOWN, &PictureBinder::OnButtonDown, this);
     widget.Bind(wxEVT_MOTION, &PictureBinder::OnMotion, this);
+    widget.Bind(wxEVT_ENTER_WINDOW, &PictureBinder::OnMotion, this);
     widget.Bind(wxEVT_LEFT_UP, &PictureBinder::OnButtonUp, this);
     widget.Bind(wxEVT_LEFT_DCLICK, &PictureBinder::OnDoubleClick, this);
     widget.Bind(wxEVT_MOUSEWHEEL, &PictureBinder::OnWheel, this);
