@@ -25,9 +25,16 @@ wxColour ColourOf(const Ink& ink) {
     return {part(16), part(8), part(0), static_cast<unsigned char>(ink.opacity * 255 + 0.5)};
 }
 
+// `size` is that of the letters' em square, as everywhere else that a drawing is written or painted.
 wxGraphicsFont FontOf(wxGraphicsContext& canvas, double size, bool bold, const wxColour& colour) {
     const wxString face = wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT).GetFaceName();
+#ifdef __WXGTK__
+    // A size in pixels would be that of the line, which is higher. Canvases have 96 of them to an inch.
+    constexpr double PointsOfPixel = 72.0 / 96.0;
+    return canvas.CreateFont(wxFontInfo(size * PointsOfPixel).FaceName(face).Bold(bold), colour);
+#else
     return canvas.CreateFont(size, face, bold ? wxFONTFLAG_BOLD : wxFONTFLAG_DEFAULT, colour);
+#endif
 }
 
 }  // namespace
