@@ -109,6 +109,8 @@ std::string RandomUser::ChooseOn(const Control& control) {
         return name + "=" + Road::Written(ChooseText(box->Text()));
     }
     if (const auto* list = dynamic_cast<const ListBox*>(&control)) return lineOf(list->Lines().size());
+    if (const auto* tabs = dynamic_cast<const Tabs*>(&control)) return lineOf(tabs->Pages().size());
+    if (const auto* picture = dynamic_cast<const Picture*>(&control)) return name + ChooseIn(*picture);
     if (const auto* files = dynamic_cast<const FileList*>(&control); files && !files->Lines().empty()) {
         return name + "#" + Road::Written(chance_.Of(files->Lines()));
     }
@@ -121,6 +123,20 @@ std::string RandomUser::ChooseOn(const Control& control) {
         return name + (chance_.Percent(50) ? ">" : "#") + folders->List(row);
     }
     return name;
+}
+
+// Room that is soon drawn, or none; what stands in the picture, or any place of it.
+std::string RandomUser::ChooseIn(const Picture& picture) {
+    const auto& items = picture.Shown().items;
+    const std::size_t kind = chance_.Below(10);
+    if (kind < 2) return kind == 0 || items.empty() ? "=240,160" : "=0,0";
+    if (kind == 2) return "#menu " + std::to_string(chance_.Below(6));
+    Point at{static_cast<double>(chance_.Below(240)), static_cast<double>(chance_.Below(160))};
+    if (!items.empty()) {
+        const auto* symbol = std::get_if<Symbol>(&chance_.Of(items));
+        if (symbol != nullptr) at = symbol->at;
+    }
+    return (kind < 5 ? ">" : "#") + std::to_string(at.x) + "," + std::to_string(at.y);
 }
 
 std::string RandomUser::ChooseText(const std::string& before) {

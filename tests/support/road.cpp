@@ -128,6 +128,10 @@ bool Road::ActOn(Control& control, char how, const std::string& text) {
         if (line >= list->ListCount()) return false;
         return how == '>' ? door.OpenLine(*list, line) : door.PickLine(*list, line);
     }
+    if (auto* tabs = dynamic_cast<Tabs*>(&control)) {
+        return door.ShowPage(*tabs, static_cast<int>(LeadingNumber(text)));
+    }
+    if (auto* picture = dynamic_cast<Picture*>(&control)) return ActOnPicture(*picture, how, text);
     if (auto* files = dynamic_cast<FileList*>(&control)) {
         const auto& lines = files->Lines();
         const auto found = std::find(lines.begin(), lines.end(), text);
@@ -140,6 +144,18 @@ bool Road::ActOn(Control& control, char how, const std::string& text) {
         return how == '>' ? door.OpenFolder(*folders, row) : door.PickFolder(*folders, row);
     }
     return false;
+}
+
+bool Road::ActOnPicture(Picture& picture, char how, const std::string& text) {
+    UserDoor& door = program->door;
+    constexpr std::string_view menu = "menu ";
+    if (text.starts_with(menu)) {
+        return door.PickMenuEntry(picture, static_cast<int>(LeadingNumber(text.substr(menu.size()))));
+    }
+    const double x = LeadingNumber(text);
+    const double y = LeadingNumber(text.substr(std::min(text.find(','), text.size() - 1) + 1));
+    if (how == '=') return door.Resize(picture, {x, y});
+    return how == '>' ? door.TakeAt(picture, {x, y}) : door.Choose(picture, {x, y});
 }
 
 bool Road::Type(TextBox& box, std::string_view text) {

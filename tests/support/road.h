@@ -20,6 +20,8 @@ namespace tarvex::testing {
 //     Name=text         empties the box and types the text, one character at a time
 //     Name#line         picks a line: by number from 0, a file by name, a folder or drive by path
 //     Name>line         the same with a double click
+//     Name#x,y          clicks a picture, or with > double-clicks it; "#menu N" picks an entry of its menu,
+//                       "=w,h" gives it room; of tabs "#N" shows a page
 //     to Name           moves the focus
 //     key Name          Tab, BackTab, Escape, Delete, CtrlUp, CtrlDown, CtrlS or Enter, in front
 //     close Screen      closes the window
@@ -85,6 +87,7 @@ class Road : FormObserver {
 
     bool Act(std::string_view act);
     bool ActOn(Control& control, char how, const std::string& text);
+    bool ActOnPicture(Picture& picture, char how, const std::string& text);
     bool Type(TextBox& box, std::string_view text);
     bool PressKey(std::string_view key);
     std::string FocusName() const;
