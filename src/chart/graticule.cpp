@@ -56,8 +56,8 @@ Lines LinesOf(const PlanView& view) {
 template <class Use>
 void ForEachMultiple(double low, double high, double distance, Use use) {
     const double first = std::ceil(low / distance - 1e-9);
-    const double last = std::floor(high / distance + 1e-9);
-    for (double number = first; number <= last; ++number) use(number * distance);
+    const auto steps = static_cast<int>(std::floor(high / distance + 1e-9) - first);
+    for (int step = 0; step <= steps; ++step) use((first + step) * distance);
 }
 
 std::vector<Point> PointsOn(const Projection& map, Position from, Position to) {

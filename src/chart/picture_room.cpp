@@ -78,7 +78,8 @@ void PictureRoom::ForEachCell(const TurnedBox& box, Use use) const {
                                   std::fabs(y * cosine - x * sine) > box.size.height / 2 + reach)) {
                 continue;
             }
-            if (!use(static_cast<std::size_t>(row * columns_ + column))) return;
+            const int cell = row * columns_ + column;
+            if (!use(static_cast<std::size_t>(cell))) return;
         }
     }
 }

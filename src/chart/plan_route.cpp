@@ -151,7 +151,7 @@ PlanRoute::PlanRoute(PlanSketch& sketch, const PlanContent& content) : sketch_(s
         rowPlaces_.push_back(point.position ? std::optional(sketch.Map().ToPoint(*point.position))
                                             : std::nullopt);
         if (rowPlaces_.back()) places_.push_back(*rowPlaces_.back());
-        if (point.leg) AddLeg(*before, *point.position, Role::Route);
+        if (point.leg && before != nullptr) AddLeg(*before, *point.position, Role::Route);
         before = point.position ? &*point.position : nullptr;
     }
     AddDrafts();

@@ -96,9 +96,7 @@ class Walk {
         if (!Touches(middle, height)) return;
         if (level == Levels) {
             found_.insert(found_.end(), entries.begin(), entries.end());
-        } else if (!wanted_(middle, height * 60)) {
-            found_.push_back(entries.front());
-        } else if (entries.size() == 1) {
+        } else if (!wanted_(middle, height * 60) || entries.size() == 1) {
             found_.push_back(entries.front());
         } else {
             VisitQuarters(entries, level + 1, south, west);
@@ -144,8 +142,8 @@ PositionGrid::PositionGrid(const NavigationTables& tables) {
                                 Millionths(position->longitude), index});
         }
     };
-    entries_.reserve(
-        static_cast<std::size_t>(tables.FixCount + tables.NavaidCount + tables.AirportCount + 3));
+    const std::int32_t entries = tables.FixCount + tables.NavaidCount + tables.AirportCount + 3;
+    entries_.reserve(static_cast<std::size_t>(entries));
     place(NavigationTable::Fixes, tables.FixCount);
     place(NavigationTable::Navaids, tables.NavaidCount);
     place(NavigationTable::Airports, tables.AirportCount);
@@ -174,11 +172,13 @@ std::vector<PlacedEntry> PositionGrid::Nearest(NavigationTable table, const Posi
     std::vector<PlacedEntry> found;
     const Centre centre(to);
     const auto distance = [&](const PlacedEntry& entry) { return centre.RadiansTo(entry.At()); };
-    for (double miles = FirstMiles; miles < MilesAround; miles *= 2) {
+    double miles = FirstMiles;
+    while (miles < MilesAround) {
         found = EntriesIn(table, {to, miles}, [](const Position&, double) { return true; });
         std::erase_if(found,
                       [&](const auto& entry) { return distance(entry) > miles * RadiansPerNauticalMile; });
         if (found.size() >= count) break;
+        miles *= 2;
     }
     std::stable_sort(found.begin(), found.end(),
                      [&](const auto& a, const auto& b) { return distance(a) < distance(b); });

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <numbers>
+#include <numeric>
 
 #include "chart/route_words.h"
 
@@ -124,7 +125,9 @@ void ProfileScene::SetScale() {
 }
 
 void ProfileScene::PutGrid() {
-    for (double feet = low_; feet <= high_ + 1; feet += step_) {
+    const auto rules = static_cast<int>((high_ - low_ + 1) / step_);
+    for (int rule = 0; rule <= rules; ++rule) {
+        const double feet = low_ + rule * step_;
         Rule({MarginLeft, Y(feet)}, {right_, Y(feet)}, Role::Grid);
         Put(Words{.text = FeetText(feet),
                   .at = {MarginLeft - 6, Y(feet)},
@@ -135,8 +138,10 @@ void ProfileScene::PutGrid() {
     constexpr double MileGap = 70;
     const double step = RoundStep(view_.miles * MileGap / PlotWidth(drawing_.size.width));
     const double end = std::min(view_.from + view_.miles, route_.Miles());
-    for (double miles = std::max(0.0, std::ceil(view_.from / step) * step); miles <= end + step / 1000;
-         miles += step) {
+    const double first = std::max(0.0, std::ceil(view_.from / step));
+    const auto marks = static_cast<int>(std::floor(end / step + 0.001) - first);
+    for (int mark = 0; mark <= marks; ++mark) {
+        const double miles = (first + mark) * step;
         Rule({X(miles), bottom_}, {X(miles), bottom_ + 4}, Role::Scale);
         Put(Words{.text = FigureText(miles) + (miles == 0 ? " NM" : ""),
                   .at = {X(miles), bottom_ + 13},
@@ -286,8 +291,8 @@ void ProfileScene::PutRow(int row) {
 void ProfileScene::PutNames() {
     constexpr double Gap = 8;
     std::vector<std::pair<double, double>> taken;
-    std::vector<int> rows;
-    for (int row = 0; row < static_cast<int>(route_.points.size()); ++row) rows.push_back(row);
+    std::vector<int> rows(route_.points.size());
+    std::iota(rows.begin(), rows.end(), 0);
     std::stable_partition(rows.begin(), rows.end(), [this](int row) { return row == selected_; });
     for (const int row : rows) {
         const RoutePoint& point = route_.points[static_cast<std::size_t>(row)];

@@ -313,7 +313,7 @@ def double_click_on_the_way_out(machine, picture):
         editor = wait_for(NEW_PROCEDURE)
         left, top, width, height = place_of(editor)
         way_out = left + width - 225, top + height - 30  # "No Changes Just Exit"
-        keys(*["shift+Tab"] * 5, "Return")  # Find Fix
+        keys(*["shift+Tab"] * 10, "Return")  # Find Fix
         search = poll(lambda: window_titled("Waypoint"), "search")
         poll(lambda: picture_of(search), "painted search")
         _, _, width, height = place_of(search)
