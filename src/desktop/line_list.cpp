@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "desktop/window_system.h"
+
 namespace tarvex {
 
 class LineList::Model final : public wxDataViewVirtualListModel {
@@ -43,24 +45,30 @@ LineList::LineList(wxWindow* parent, long style, Model* model)
 
 LineList::LineList(wxWindow* parent, bool icons) : LineList(parent, wxDV_NO_HEADER, new Model(1, icons)) {
     if (icons) {
-        Append(new wxDataViewIconTextRenderer, {}, 0, false);
+        Append(new wxDataViewIconTextRenderer, {}, 0, wxCOL_WIDTH_AUTOSIZE, false);
     } else {
-        Append(new wxDataViewTextRenderer, {}, 0, false);
+        // A column that finds its own width would have every line laid out.
+        Append(new wxDataViewTextRenderer, {}, 0, GetCharWidth(), false);
+        LevelLines(*this);
     }
 }
 
 LineList::LineList(wxWindow* parent, const std::vector<Column>& columns)
     : LineList(parent, 0L, new Model(static_cast<unsigned>(columns.size()), false)) {
     for (unsigned i = 0; const Column& column : columns) {
-        Append(new wxDataViewTextRenderer, column.heading, i++, column.number);
+        Append(new wxDataViewTextRenderer, column.heading, i++, wxCOL_WIDTH_AUTOSIZE, column.number);
     }
 }
 
-void LineList::Append(wxDataViewRenderer* renderer, const wxString& heading, unsigned column, bool number) {
+void LineList::Append(wxDataViewRenderer* renderer, const wxString& heading, unsigned column, int width,
+                      bool number) {
     const int align = number ? wxALIGN_RIGHT : wxALIGN_LEFT;
     renderer->SetAlignment(align | wxALIGN_CENTRE_VERTICAL);
-    AppendColumn(new wxDataViewColumn(heading, renderer, column, wxCOL_WIDTH_AUTOSIZE,
-                                      static_cast<wxAlignment>(align)));
+    AppendColumn(new wxDataViewColumn(heading, renderer, column, width, static_cast<wxAlignment>(align)));
+}
+
+void LineList::MakeRoomFor(std::size_t characters) {
+    GetColumn(0)->SetWidth(GetTextExtent(wxString('N', characters)).x + 2 * GetCharWidth());
 }
 
 void LineList::Put(unsigned count, TextOfLine text, IconOfLine icon) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <vector>
 
@@ -25,6 +26,8 @@ class LineList final : public wxDataViewCtrl {
     void Put(unsigned count, TextOfLine text, IconOfLine icon = {});
 
     void Put(unsigned count, TextOfCell text);
+    // Of a list without icons and columns, which does not measure its lines: the most that a line has.
+    void MakeRoomFor(std::size_t characters);
 
     static constexpr int NoLine = -1;
     int Line() const { return LineOf(GetSelection()); }
@@ -35,7 +38,8 @@ class LineList final : public wxDataViewCtrl {
   private:
     class Model;
     LineList(wxWindow* parent, long style, Model* model);
-    void Append(wxDataViewRenderer* renderer, const wxString& heading, unsigned column, bool number);
+    void Append(wxDataViewRenderer* renderer, const wxString& heading, unsigned column, int width,
+                bool number);
     Model* model_;
 };
 

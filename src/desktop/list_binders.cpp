@@ -197,6 +197,9 @@ void FileListBinder::ToDoor(int line) {
 void FileListBinder::ToWidget() {
     if (shown_ != list_.Lines()) {
         shown_ = list_.Lines();
+        std::size_t longest = 0;
+        for (const std::string& line : shown_) longest = std::max(longest, line.size());
+        widget_.MakeRoomFor(longest);
         widget_.Put(static_cast<unsigned>(shown_.size()),
                     [this](unsigned line) { return Shown(shown_[line]); });
     }

@@ -111,6 +111,10 @@ void ActivateByClick(wxDataViewCtrl& list) {
     gtk_tree_view_set_activate_on_single_click(GTK_TREE_VIEW(list.GtkGetTreeView()), TRUE);
 }
 
+void LevelLines(wxDataViewCtrl& list) {
+    gtk_tree_view_set_fixed_height_mode(GTK_TREE_VIEW(list.GtkGetTreeView()), TRUE);
+}
+
 #else
 
 namespace {
@@ -171,6 +175,8 @@ void ActivateByClick(wxDataViewCtrl& list) {
         list.HandleWindowEvent(activation);
     });
 }
+
+void LevelLines(wxDataViewCtrl&) {}
 
 #endif
 

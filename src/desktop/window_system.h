@@ -32,4 +32,7 @@ double PixelsOfUnit(const wxWindow& window);
 // Makes a single click on a line of a list activate it, whether it is selected already or not.
 void ActivateByClick(wxDataViewCtrl& list);
 
+// Lets a list whose columns have fixed widths lay out only the lines in sight, all as high as the first.
+void LevelLines(wxDataViewCtrl& list);
+
 }  // namespace tarvex
