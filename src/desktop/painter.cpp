@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <memory>
 
 #include <wx/brush.h>
 #include <wx/settings.h>
@@ -45,10 +44,12 @@ double PictureFonts::Width(const std::string& text, double size, bool bold) cons
     const auto known = widths_.find(key);
     if (known != widths_.end()) return known->second;
     if (widths_.size() >= MostKept) widths_.clear();
-    const std::unique_ptr<wxGraphicsContext> canvas(wxGraphicsContext::Create());
-    canvas->SetFont(FontOf(*canvas, size, bold, *wxBLACK));
+    if (canvas_ == nullptr) canvas_.reset(wxGraphicsContext::Create());
+    wxGraphicsFont& font = fonts_[{size, bold}];
+    if (font.IsNull()) font = FontOf(*canvas_, size, bold, *wxBLACK);
+    canvas_->SetFont(font);
     double width = 0, height = 0;
-    canvas->GetTextExtent(wxString::FromUTF8(text), &width, &height);
+    canvas_->GetTextExtent(wxString::FromUTF8(text), &width, &height);
     return widths_.emplace(key, width).first->second;
 }
 

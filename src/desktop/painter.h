@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -20,6 +21,8 @@ class PictureFonts final : public TextMeasure {
     double Width(const std::string& text, double size, bool bold) const override;
 
   private:
+    mutable std::unique_ptr<wxGraphicsContext> canvas_;
+    mutable std::map<std::pair<double, bool>, wxGraphicsFont> fonts_;
     mutable std::unordered_map<std::string, double> widths_;
 };
 
