@@ -16,6 +16,7 @@ BIN = PROJECT / "build/bin"
 DATA = "GIOSTAM/navdata"
 FULL_SIZE = {"wpNavFIX.txt": 190001, "wpNavAID.txt": 20001, "wpNavAPT.txt": 14401}
 STORED_PROCEDURES = 20000
+ROWS = 201
 STARTS = 15
 
 
@@ -24,7 +25,7 @@ class Machine:
 
     def __init__(self, folder, full_tables, procedures=0):
         self.program = folder / "bin/tarvex"
-        data = folder / "FS2000" / DATA
+        self.data = data = folder / "FS2000" / DATA
         for kind in ("Sids", "Stars", "Approaches"):
             (data / kind).mkdir(parents=True)
         for name, lines in FULL_SIZE.items():
@@ -77,13 +78,47 @@ def idle(process):
     return now
 
 
+def xdotool(*arguments):
+    run = subprocess.run(["xdotool", *map(str, arguments)], check=True, capture_output=True, text=True)
+    return run.stdout
+
+
 def key(name):
-    subprocess.run(["xdotool", "key", name], check=True)
+    xdotool("key", name)
+
+
+def turn(button):
+    xdotool("click", button)
+
+
+def geometry_of_active():
+    """The number of the window that has the keyboard, its width and its height."""
+    lines = xdotool("getactivewindow", "getwindowgeometry", "--shell").splitlines()
+    values = dict(line.split("=") for line in lines)
+    return values["WINDOW"], int(values["WIDTH"]), int(values["HEIGHT"])
+
+
+def slowest(process, act, arguments):
+    """Milliseconds of work for the slowest of the acts."""
+    worst = 0.0
+    for each in arguments:
+        before = idle(process)
+        act(each)
+        worst = max(worst, idle(process) - before)
+    return worst
 
 
 def wait_for(caption):
-    subprocess.run(["xdotool", "search", "--sync", "--onlyvisible", "--name", caption, "windowfocus", "--sync"],
-                   check=True, stdout=subprocess.DEVNULL)
+    xdotool("search", "--sync", "--onlyvisible", "--name", caption, "windowfocus", "--sync")
+
+
+def open_picker(process):
+    wait_for("^Tarvex$")
+    idle(process)
+    key("Tab")  # on to the button behind the first one, which is for the departures stored
+    key("space")
+    wait_for("^Procedure Select$")
+    idle(process)
 
 
 def picker(figures, folder):
@@ -91,19 +126,43 @@ def picker(figures, folder):
     machine = Machine(folder / "picker", full_tables=False, procedures=STORED_PROCEDURES)
     process = subprocess.Popen([machine.program], env=machine.environment)
     try:
-        wait_for("^Tarvex$")
-        idle(process)
-        key("Tab")  # on to the button behind the first one, which is for the departures stored
-        key("space")
-        wait_for("^Procedure Select$")
-        idle(process)
+        open_picker(process)
         key("Tab")
+        letters = ["K", "J", "F", "K", "BackSpace", "BackSpace", "BackSpace", "BackSpace"]
+        figures["picker_letter_ms"] = slowest(process, key, letters)
+    finally:
+        process.kill()
+        process.wait()
+
+
+def write_full_procedure(machine):
+    """A departure of as many rows as there can be, round a place with many entries of the tables."""
+    rows = [
+        f"W,FIX{row:03},,0,{33 + row % 20 / 10:.6f},{-118 + row / 100:.6f},0,250,3000,9000,3,\r\n" for row in range(ROWS)
+    ]
+    text = "\r\n" + "".join(rows) + "\r\nEnd of Terminal Procedure\r\n"
+    (machine.data / "Sids/KSAN-FULL1.wsd").write_bytes(text.encode())
+
+
+def editor(figures, folder):
+    """Processor time of the window for a character typed and for a turn of the wheel, painting included."""
+    machine = Machine(folder / "editor", full_tables=True)
+    write_full_procedure(machine)
+    process = subprocess.Popen([machine.program], env=machine.environment)
+    try:
+        open_picker(process)
+        key("K")
+        key("Return")
+        wait_for("^Modify a Procedure$")
+        idle(process)
         worst = 0.0
-        for letter in ("K", "J", "F", "K", "BackSpace", "BackSpace", "BackSpace", "BackSpace"):
-            before = idle(process)
-            key(letter)
-            worst = max(worst, idle(process) - before)
-        figures["picker_letter_ms"] = worst
+        for text in ("F", "33", "5", "117", "3"):  # a name and a position, which the chart shows as they come
+            worst = max(worst, slowest(process, key, text))
+            key("Tab")
+        figures["editor_key_ms"] = worst
+        window, width, height = geometry_of_active()
+        xdotool("mousemove", "--window", window, int(width * 0.6), int(height * 0.7))  # into the chart
+        figures["editor_wheel_ms"] = slowest(process, turn, [4, 4, 4, 4, 5, 5, 5, 5, 5, 5])  # in and out
     finally:
         process.kill()
         process.wait()
@@ -114,6 +173,7 @@ def main():
     with tempfile.TemporaryDirectory(prefix="tarvex-") as folder:
         starts(figures, Path(folder))
         picker(figures, Path(folder))
+        editor(figures, Path(folder))
     json.dump(figures, sys.stdout)
 
 
