@@ -22,6 +22,7 @@ REGISTRY_KEY = r"HKLM\Software\Microsoft\Microsoft Games\Flight Simulator\7.0"
 STAR = "KJFK-CAMRN4.wst"
 MENU, PICKER, EDITOR, FOLDER = "Tarvex", "Procedure Select", "Modify a Procedure", " "
 NEW_PROCEDURE = "Create a Procedure"
+SELECTED = bytes.fromhex("c8381b")  # the selected row in pictures
 HEADER = re.compile(rb"; This Terminal Procedure generated on \d{1,2}/\d{1,2}/\d{2,4} by Tarvex 2\.35\r\n")
 
 
@@ -327,6 +328,40 @@ def double_click_on_the_way_out(machine, picture):
         require(window_titled(NEW_PROCEDURE) and not window_titled(MENU), "the double click went through")
 
 
+def selected_symbol(window):
+    """Where the chart shows the selected row: the middle of the longest run of its colour."""
+    image = subprocess.run(["import", "-window", window, "-depth", "8", "ppm:-"], capture_output=True).stdout
+    _, size, _, pixels = image.split(b"\n", 3)
+    width = int(size.split()[0])
+    runs = re.finditer(rb"(?:%s){5,}" % re.escape(SELECTED), pixels)
+    longest = max(runs, key=lambda run: run.end() - run.start(), default=None)
+    if longest is None or longest.start() % 3:
+        return None
+    middle = (longest.start() + longest.end()) // 6
+    return middle % width, middle // width
+
+
+def click_on_the_chart(machine, picture):
+    machine.set_up()
+    machine.settings(rb"C:\FS2000")
+    before = machine.star().read_bytes()
+    with machine.program():
+        open_star()
+        editor = wait_for(EDITOR)
+        keys(*["Tab"] * 10, "Home", "Down", "Down")
+        symbol = poll(lambda: selected_symbol(editor), "selected row in the chart")
+        keys("Up", "Up")
+        poll(lambda: selected_symbol(editor) != symbol, "another selected row")
+        click(editor, *symbol)
+        poll(lambda: selected_symbol(editor) == symbol, "row selected by a click on its symbol")
+        picture()
+        keys("Delete", "ctrl+s")
+        wait_for(MENU)
+        rest = b"\r\n".join(line for line in before.split(b"\r\n")[1:] if not line.startswith(b"W,CAMRN,"))
+        after = machine.star().read_bytes()
+        require(after.split(b"\r\n", 1)[1] == rest, f"saved file {after!r}")
+
+
 def native_program_beside_the_prefix(machine, picture):
     machine.set_up()
     registry("add", REGISTRY_KEY, "/v", "path", "/d", r"c:\fs2000")
@@ -350,6 +385,7 @@ ROADS = [
     read_only_folder,
     shutting_down,
     double_click_on_the_way_out,
+    click_on_the_chart,
     native_program_beside_the_prefix,
 ]
 
