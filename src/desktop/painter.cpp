@@ -4,6 +4,7 @@
 #include <array>
 
 #include <wx/brush.h>
+#include <wx/fontenum.h>
 #include <wx/settings.h>
 
 #include "chart/symbols.h"
@@ -24,14 +25,36 @@ wxColour ColourOf(const Ink& ink) {
     return {part(16), part(8), part(0), static_cast<unsigned char>(ink.opacity * 255 + 0.5)};
 }
 
+#ifndef __WXGTK__
+bool DrawsWords(wxGraphicsContext& canvas, const wxString& face) {
+    double width = 0, height = 0;
+    canvas.SetFont(canvas.CreateFont(10, face));
+    canvas.GetTextExtent("Tarvex", &width, &height);
+    return width > 0;
+}
+
+// The face of the windows' words. A canvas knows TrueType faces only and draws nothing in one that it lacks,
+// as where the system's own stands for another: then one that it has.
+wxString WordsFace(wxGraphicsContext& canvas) {
+    const wxString face = wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT).GetFaceName();
+    if (DrawsWords(canvas, face)) return face;
+    wxArrayString others = wxFontEnumerator::GetFacenames();
+    for (const char* usual : {"DejaVu Sans", "Arial", "Tahoma", "Segoe UI"}) others.Insert(usual, 0);
+    const auto found = std::find_if(others.begin(), others.end(),
+                                    [&canvas](const wxString& other) { return DrawsWords(canvas, other); });
+    return found == others.end() ? face : *found;
+}
+#endif
+
 // `size` is that of the letters' em square, as everywhere else that a drawing is written or painted.
 wxGraphicsFont FontOf(wxGraphicsContext& canvas, double size, bool bold, const wxColour& colour) {
-    const wxString face = wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT).GetFaceName();
 #ifdef __WXGTK__
+    const wxString face = wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT).GetFaceName();
     // A size in pixels would be that of the line, which is higher. Canvases have 96 of them to an inch.
     constexpr double PointsOfPixel = 72.0 / 96.0;
     return canvas.CreateFont(wxFontInfo(size * PointsOfPixel).FaceName(face).Bold(bold), colour);
 #else
+    static const wxString face = WordsFace(canvas);
     return canvas.CreateFont(size, face, bold ? wxFONTFLAG_BOLD : wxFONTFLAG_DEFAULT, colour);
 #endif
 }

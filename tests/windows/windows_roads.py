@@ -329,11 +329,21 @@ def double_click_on_the_way_out(machine, picture):
 
 
 def selected_symbol(window):
-    """Where the chart shows the selected row: the middle of the longest run of its colour."""
+    """Where the chart shows the selected row, once it stays there: the middle of the longest run of its colour."""
+    before = None
+    while True:
+        place = middle_of_run(window, SELECTED)
+        if place == before:
+            return place
+        before = place
+        time.sleep(0.3)
+
+
+def middle_of_run(window, colour):
     image = subprocess.run(["import", "-window", window, "-depth", "8", "ppm:-"], capture_output=True).stdout
     _, size, _, pixels = image.split(b"\n", 3)
     width = int(size.split()[0])
-    runs = re.finditer(rb"(?:%s){5,}" % re.escape(SELECTED), pixels)
+    runs = re.finditer(rb"(?:%s){5,}" % re.escape(colour), pixels)
     longest = max(runs, key=lambda run: run.end() - run.start(), default=None)
     if longest is None or longest.start() % 3:
         return None
