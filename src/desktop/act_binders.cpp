@@ -84,6 +84,11 @@ ButtonBinder::ButtonBinder(NativeForm& window, Button& button, wxAnyButton& widg
 
 void ButtonBinder::ToWidget() {
     if (!button_.Caption().empty()) ShowCaption(widget_, button_);
+    const wxString tip = Shown(button_.Tip());
+    if (!tip.empty() && widget_.GetToolTipText() != tip) {
+        widget_.SetToolTip(tip);
+        NameForAccess(widget_, button_.Name(), tip);
+    }
     Binder::ToWidget();
 }
 

@@ -10,6 +10,7 @@
 #include "desktop/form_builder.h"
 #include "desktop/layouts.h"
 #include "desktop/native_form.h"
+#include "desktop/native_text.h"
 #include "editor/modify_procedure.h"
 
 namespace tarvex {
@@ -158,7 +159,14 @@ wxSizer* EditorLayout::List() {
     column->AddSpacer(gap_);
     column->Add(put_.Put(editor_.WaypointList, {24, 5}, "List of Waypoints"), wxSizerFlags(1).Expand());
     column->AddSpacer(gap_);
-    column->Add(put_.Row({&editor_.MoveUp, &editor_.MoveDown}), wxSizerFlags().Expand());
+    auto* moves = new wxBoxSizer(wxHORIZONTAL);
+    moves->Add(put_.Row({&editor_.MoveUp, &editor_.MoveDown}), wxSizerFlags(1).Expand());
+    for (const auto& [button, glyph] :
+         {std::pair(&editor_.UndoCommand, Glyph::Undo), std::pair(&editor_.RedoCommand, Glyph::Redo)}) {
+        moves->AddSpacer(gap_ / 2);
+        moves->Add(put_.PutSymbol(*button, glyph, Shown(button->Tip())), wxSizerFlags().Expand());
+    }
+    column->Add(moves, wxSizerFlags().Expand());
     return column;
 }
 

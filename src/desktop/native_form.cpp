@@ -21,11 +21,14 @@ struct KeyOfShortcut {
     ShortcutKey key;
 };
 
-constexpr std::array<KeyOfShortcut, 6> ShortcutKeys = {{
+constexpr std::array<KeyOfShortcut, 9> ShortcutKeys = {{
     {WXK_DELETE, wxMOD_NONE, ShortcutKey::Delete},
     {WXK_UP, wxMOD_CONTROL, ShortcutKey::CtrlUp},
     {WXK_DOWN, wxMOD_CONTROL, ShortcutKey::CtrlDown},
     {'S', wxMOD_CONTROL, ShortcutKey::CtrlS},
+    {'Z', wxMOD_CONTROL, ShortcutKey::CtrlZ},
+    {'Y', wxMOD_CONTROL, ShortcutKey::CtrlY},
+    {'Z', wxMOD_CONTROL | wxMOD_SHIFT, ShortcutKey::CtrlShiftZ},
     {WXK_RETURN, wxMOD_NONE, ShortcutKey::Enter},
     {WXK_NUMPAD_ENTER, wxMOD_NONE, ShortcutKey::Enter},
 }};

@@ -49,11 +49,11 @@ ModifyProcedure::ModifyProcedure(const Workplace& workplace, const EditorTools& 
     for (Button* button : {&ModifyWaypointCommand, &DeleteWaypointCommand, &MoveUp, &MoveDown}) {
         button->SetEnabled(false);
     }
-    MoveUp.SetRepeats();
-    MoveDown.SetRepeats();
+    for (Button* button : {&MoveUp, &MoveDown, &UndoCommand, &RedoCommand}) button->SetRepeats();
     Connect();
     state_.Rows.Observe(*this);
     ShowRowsInUse();
+    ShowSteps();
 }
 
 ModifyProcedure::~ModifyProcedure() {
@@ -135,7 +135,8 @@ void ModifyProcedure::RowsChanged(const ProcedureRows::Change& change) {
     };
     switch (change.kind) {
         case ProcedureRows::Change::Kind::Appended:
-            WaypointList.AddItem(line(change.row));
+        case ProcedureRows::Change::Kind::Inserted:
+            WaypointList.AddItem(line(change.row), change.row);
             break;
         case ProcedureRows::Change::Kind::Replaced:
             break;
@@ -151,6 +152,14 @@ void ModifyProcedure::RowsChanged(const ProcedureRows::Change& change) {
     Pictures.RowsChanged(change);
 }
 
+void ModifyProcedure::EventEnded() {
+    const Control* focused = Host().GetFocus().Current();
+    ShowSteps();
+    Pictures.Update();
+    // A button that had the focus may be of no use any longer.
+    if (focused != nullptr && Host().GetFocus().Current() == nullptr) WaypointList.SetFocus();
+}
+
 void ModifyProcedure::LetChooseRunway(bool usable) {
     if (usable) RwySpecificCheck.SetEnabled(true);
     RwySpecificCheck.SetValue(0);
@@ -159,6 +168,7 @@ void ModifyProcedure::LetChooseRunway(bool usable) {
 
 void ModifyProcedure::Form_Unload() {
     state_.Rows.EndObservation(*this);
+    state_.Rows.ForgetSteps();
     // Off the screen first, so that no rule of a box complains while the focus moves to the menu.
     Hide();
     workplace_.initialLoad.Show();

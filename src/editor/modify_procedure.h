@@ -89,6 +89,9 @@ class ModifyProcedure : public Form, private RowsObserver {
     Label Label8{*this, "Label8", "Find Airport", 57};
     Label RowsLabel{*this, "RowsLabel", "", 60};  // rows in use, of all there are; red when few are left
 
+    Button UndoCommand{*this, "UndoCommand", "", 70};
+    Button RedoCommand{*this, "RedoCommand", "", 71};
+
     const CoordinateGroup Latitude{LatitudeAxis, DDMLatText, DMMLatText, NLatOption, SLatOption};
     const CoordinateGroup Longitude{LongitudeAxis, DDMLongText, DMMLongText, ELongOption, WLongOption};
 
@@ -100,7 +103,10 @@ class ModifyProcedure : public Form, private RowsObserver {
         return {{ShortcutKey::Delete, &WaypointList, &DeleteWaypointCommand},
                 {ShortcutKey::CtrlUp, &WaypointList, &MoveUp},
                 {ShortcutKey::CtrlDown, &WaypointList, &MoveDown},
-                {ShortcutKey::CtrlS, nullptr, &SaveCommand}};
+                {ShortcutKey::CtrlS, nullptr, &SaveCommand},
+                {ShortcutKey::CtrlZ, nullptr, &UndoCommand},
+                {ShortcutKey::CtrlY, nullptr, &RedoCommand},
+                {ShortcutKey::CtrlShiftZ, nullptr, &RedoCommand}};
     }
 
     // Opening and closing (modify_procedure.cpp).
@@ -140,13 +146,17 @@ class ModifyProcedure : public Form, private RowsObserver {
     // the boxes hold: degrees and minutes are the current form.
     WaypointRecord BoxesAsRow() const;
 
-    // Rows (modify_procedure_rows.cpp, modify_procedure_select.cpp).
+    // Rows (modify_procedure_rows.cpp, modify_procedure_select.cpp, modify_procedure_undo.cpp).
     void WaypointList_Click();
     void AddWaypointCommand_Click();
     void ModifyWaypointCommand_Click();
     void DeleteWaypointCommand_Click();
     void MoveUp_Click();
     void MoveDown_Click();
+    // Take back the last act on the rows, or do it again, and select the row that it came to. Where that has
+    // gone, a selection ends, and the boxes of a waypoint that is not in the procedure yet stay.
+    void UndoCommand_Click() { Retrace(&ProcedureRows::Undo); }
+    void RedoCommand_Click() { Retrace(&ProcedureRows::Redo); }
 
     // Opening the tools, and what they bring (modify_procedure_tools.cpp).
     void FindFixCommand_Click() { SearchForBoxes("F"); }
@@ -165,7 +175,7 @@ class ModifyProcedure : public Form, private RowsObserver {
 
     ProcedurePicture Pictures;
 
-    void EventEnded() override { Pictures.Update(); }
+    void EventEnded() override;
 
   private:
     // Connects the events of the controls with the operations.
@@ -192,6 +202,8 @@ class ModifyProcedure : public Form, private RowsObserver {
     void SaveFailed(const Failure& failure);
 
     void ShowRowsInUse();
+    void ShowSteps();
+    void Retrace(std::optional<int> (ProcedureRows::*step)());
     // Exchanges the selected row with its neighbour, one up (-1) or down (1), and selects it there.
     void MoveSelected(int by);
 

@@ -43,6 +43,8 @@ void ModifyProcedure::Connect() {
              {DeleteWaypointCommand, &Self::DeleteWaypointCommand_Click},
              {MoveUp, &Self::MoveUp_Click},
              {MoveDown, &Self::MoveDown_Click},
+             {UndoCommand, &Self::UndoCommand_Click},
+             {RedoCommand, &Self::RedoCommand_Click},
              {FindFixCommand, &Self::FindFixCommand_Click},
              {FindNavCommand, &Self::FindNavCommand_Click},
              {FindAirportCommand, &Self::FindAirportCommand_Click},

@@ -55,6 +55,11 @@ const Message* Unmodifiable(const ModifyProcedure& form) {
     return nullptr;
 }
 
+// How a step on a row is called, by what the list shows for the row.
+std::string StepName(const std::string& act, std::string_view line) {
+    return act + " " + std::string(Trim(line));
+}
+
 }  // namespace
 
 void ModifyProcedure::ShowRowsInUse() {
@@ -100,7 +105,9 @@ void ModifyProcedure::AddWaypointCommand_Click() {
     }
     BuildFilename();
     // Both names may be filled: the row is then named for the navaid and the line for the fix.
-    state_.Rows.Append(BoxesAsRow(), FixNameText.Text().empty() ? NAVIDText.Text() : FixNameText.Text());
+    const std::string line = FixNameText.Text().empty() ? NAVIDText.Text() : FixNameText.Text();
+    const RowsStep step(state_.Rows, StepName("Add", line));
+    state_.Rows.Append(BoxesAsRow(), line);
     ClearDataCommand_Click();
     LatEdited = False;
     LongEdited = False;
@@ -140,6 +147,7 @@ void ModifyProcedure::ModifyWaypointCommand_Click() {
     row.Altitude2 = OrZero(Alt2Text);
     row.Altitude1 = OrZero(Alt1Text);
     row.RestrictionType = RestrictionCode(*this);
+    const RowsStep step(state_.Rows, StepName("Modify", WaypointList.Text()));
     state_.Rows.Replace(index, row);
     LatEdited = False;
     LongEdited = False;
@@ -151,6 +159,7 @@ void ModifyProcedure::DeleteWaypointCommand_Click() {
         dialogue_.Ask(editor_messages::NothingSelected);
         return;
     }
+    const RowsStep step(state_.Rows, StepName("Delete", WaypointList.Text()));
     state_.Rows.Erase(index);
     ClearDataCommand_Click();
 }
@@ -166,6 +175,7 @@ void ModifyProcedure::MoveDown_Click() {
 
 void ModifyProcedure::MoveSelected(int by) {
     const int from = WaypointList.ListIndex();
+    const RowsStep step(state_.Rows, StepName("Move", WaypointList.Text()));
     state_.Rows.Exchange(from, from + by);
     WaypointList.SetListIndex(from + by);
 }

@@ -59,8 +59,9 @@ void ModifyProcedure::AddArcCommand_Click() {
     AddARC& designer = *tools_.addARC.Get();
     designer.OnSelectNavaid = [this] { SearchForCenter(); };
     designer.RoomForPoints = [this] { return state_.Rows.Free(); };
-    designer.OnPoint = [this](const std::string& name, const PositionTexts& position) {
-        AppendArcPoint(name, position);
+    designer.OnPoints = [this](const std::vector<AddARC::Point>& points) {
+        const RowsStep step(state_.Rows, "Add ARC " + points.front().name + " to " + points.back().name);
+        for (const auto& [name, position] : points) AppendArcPoint(name, position);
     };
 }
 

@@ -103,11 +103,14 @@ void AddARC::TransferCommand_Click() {
     const ArcLayout arc = LayOutArc(Request());
     if (!Accept(arc)) return;
 
+    std::vector<Point> points;
     variables_.ArcPointNumber = 1;
     for (const ArcPoint& point : arc.points) {
-        OnPoint(ArcLabelText.Text() + NumberText(variables_.ArcPointNumber), PositionTextsOf(point.position));
+        points.push_back(
+            {ArcLabelText.Text() + NumberText(variables_.ArcPointNumber), PositionTextsOf(point.position)});
         ++variables_.ArcPointNumber;
     }
+    OnPoints(points);
     magVarSide_ = WestVarOption.Value() ? "W" : "E";
     Unload();
 }

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "geometry/arc_layout.h"
 #include "geometry/position.h"
@@ -54,14 +55,18 @@ class AddARC : public Form {
     void TransferCommand_Click();
     void ExitCommand_Click() { Unload(); }
 
+    struct Point {
+        std::string name;
+        PositionTexts position;
+    };
+
     // The navaid to be the centre is wanted; TakeCenter gets it.
     std::function<void()> OnSelectNavaid;
     void TakeCenter(std::string_view label, const Position& center);
 
-    // How many points can be taken still, and who takes those of the arc, one by one in flying order, with
-    // their names.
+    // How many points can be taken still, and who takes those of the arc in flying order.
     std::function<int()> RoomForPoints;
-    std::function<void(const std::string& name, const PositionTexts& position)> OnPoint;
+    std::function<void(const std::vector<Point>& points)> OnPoints;
 
     // The arc that the boxes describe as they are, empty ones as 0.
     ArcRequest Request() const;

@@ -54,6 +54,8 @@ class Control {
     // can't take the focus, or when that rule takes the focus back.
     void SetFocus();
     bool HasFocus() const;
+    // It has lost the focus, behind every rule of that.
+    virtual void FocusGone() {}
 
     // Called after every change of a property; for the native widget.
     void Observe(std::function<void()> observer) { observer_ = std::move(observer); }

@@ -66,7 +66,8 @@ void Focus::FormGone(const Form& form) {
 }
 
 void Focus::Set(Control* control) {
-    current_ = control;
+    Control* left = std::exchange(current_, control);
+    if (left != nullptr && left != control) left->FocusGone();
     if (control != nullptr) {
         control->Owner().lastFocus_ = control;
         host_.Raised(control->Owner());

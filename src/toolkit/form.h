@@ -13,7 +13,7 @@ class Button;
 class FormHost;
 class TextBox;
 
-enum class ShortcutKey { Delete, CtrlUp, CtrlDown, CtrlS, Enter };
+enum class ShortcutKey { Delete, CtrlUp, CtrlDown, CtrlS, CtrlZ, CtrlY, CtrlShiftZ, Enter };
 
 // A key of a form that presses a button of it, or does something else.
 struct Shortcut {

@@ -1,6 +1,7 @@
 #include "toolkit/simple_controls.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "toolkit/form.h"
 
@@ -26,9 +27,34 @@ void Frame::SetPlace(int top, int height) {
 
 void TextBox::SetText(std::string_view text) {
     if (text_ == text) return;
+    typing_.reset();
+    Put(text);
+}
+
+void TextBox::Put(std::string_view text) {
     text_ = text;
     Changed();
     Run(OnChange);
+}
+
+void TextBox::Type(std::string_view text) {
+    if (text_ == text) return;
+    if (!typing_) typing_ = Typing{text_, {}};
+    typing_->undone.reset();
+    Put(text);
+}
+
+bool TextBox::UndoTyping() {
+    if (!typing_ || text_ == typing_->before) return false;
+    typing_->undone = text_;
+    Put(std::string(typing_->before));
+    return true;
+}
+
+bool TextBox::RedoTyping() {
+    if (!typing_ || !typing_->undone) return false;
+    Put(*std::exchange(typing_->undone, std::nullopt));
+    return true;
 }
 
 void TextBox::SetLocked(bool locked) {
@@ -40,6 +66,12 @@ void TextBox::SetLocked(bool locked) {
 void TextBox::SetBackColor(Colour colour) {
     if (backColor_ == colour) return;
     backColor_ = colour;
+    Changed();
+}
+
+void Button::SetTip(std::string_view tip) {
+    if (tip_ == tip) return;
+    tip_ = tip;
     Changed();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -55,17 +56,32 @@ class TextBox : public Control {
 
     const std::string& Text() const { return text_; }
     void SetText(std::string_view text);  // runs OnChange when the text changes
+    // The same by the user. As long as the focus is here and no operation changes the text, the typing can be
+    // undone as a whole, and done again.
+    void Type(std::string_view text);
+    // False when there is nothing to undo, or to do again: for the one, when the text is what it was.
+    bool UndoTyping();
+    bool RedoTyping();
     int MaxLength() const { return maxLength_; }
     bool Locked() const { return locked_; }  // shown as usable, but takes no typing
     void SetLocked(bool locked);
     Colour BackColor() const { return backColor_; }
     void SetBackColor(Colour colour);
     bool TakesFocus() const override { return true; }
+    void FocusGone() override { typing_.reset(); }
 
     std::function<void()> OnChange;
 
   private:
+    struct Typing {
+        std::string before;
+        std::optional<std::string> undone;
+    };
+
+    void Put(std::string_view text);
+
     std::string text_;
+    std::optional<Typing> typing_;
     int maxLength_;
     bool locked_ = false;
     Colour backColor_ = White;
@@ -85,6 +101,10 @@ class Button : public CaptionedControl {
     bool DropsBoxes() const { return boxes_ == Boxes::Dropped; }
     bool TakesFocus() const override { return true; }
 
+    // What it does, said beside the pointer and by a screen reader; empty leaves that to its window.
+    const std::string& Tip() const { return tip_; }
+    void SetTip(std::string_view tip);
+
     // A double click presses the button once, unless it repeats: then each click is a press of its own.
     bool Repeats() const { return repeats_; }
     void SetRepeats() { repeats_ = true; }
@@ -93,6 +113,7 @@ class Button : public CaptionedControl {
 
   private:
     Boxes boxes_;
+    std::string tip_;
     bool repeats_ = false;
 };
 

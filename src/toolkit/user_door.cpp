@@ -38,6 +38,14 @@ std::string WithinLimit(std::string_view before, std::string_view typed, std::si
     return result;
 }
 
+// Whether the key was for the typing in the box that has the focus.
+bool Retypes(Control* focused, ShortcutKey key) {
+    auto* box = dynamic_cast<TextBox*>(focused);
+    if (box == nullptr) return false;
+    if (key == ShortcutKey::CtrlZ) return box->UndoTyping();
+    return (key == ShortcutKey::CtrlY || key == ShortcutKey::CtrlShiftZ) && box->RedoTyping();
+}
+
 }  // namespace
 
 bool UserDoor::Act(Control& control, const std::function<void()>& act) {
@@ -57,7 +65,7 @@ bool UserDoor::Type(TextBox& box, std::string_view text) {
     const bool acted = Act(box, [&] {
         if (box.Locked()) return;
         taken = true;
-        box.SetText(WithinLimit(box.Text(), text, static_cast<std::size_t>(box.MaxLength())));
+        box.Type(WithinLimit(box.Text(), text, static_cast<std::size_t>(box.MaxLength())));
     });
     return acted && taken;
 }
@@ -212,6 +220,7 @@ bool UserDoor::Key(Form& form, ShortcutKey key) {
     });
     if (found == shortcuts.end()) return false;
     host_.RunEvent([&] {
+        if (Retypes(before, key)) return;
         if (found->button == nullptr) return found->act();
         if (!Press(*found->button) || !OnScreen(host_, form)) return;
         if (found->button->HasFocus() && before != nullptr) before->SetFocus();

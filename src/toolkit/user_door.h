@@ -57,7 +57,8 @@ class UserDoor {
     bool Arrow(OptionButton& option, bool forward) { return Pick(option.Neighbour(forward)); }
     bool Escape(Form& form);  // presses the form's way out
     // A key pressed in a form: presses the button of its shortcut. Unless the press moved the focus on, it
-    // goes back to the control that had it. Tells whether the key is a shortcut where the focus stands, and
+    // goes back to the control that had it. Ctrl+Z, and Ctrl+Y or Ctrl+Shift+Z, first undo and redo what was
+    // typed in the box that has the focus. Tells whether the key is a shortcut where the focus stands, and
     // so means nothing else there; a button that takes no press leaves it one. Nothing while another form has
     // the focus.
     bool Key(Form& form, ShortcutKey key);

@@ -68,6 +68,29 @@ class Slips(WindowTest):
         key("BackSpace", "BackSpace")
         editor.expect(editor.text, "FixNameText", "CAMR    ")
 
+    def test_an_act_is_undone_but_typing_first(self):
+        program = self.start()
+        editor = self.edit(program)
+        self.assertFalse(editor.is_enabled("UndoCommand"))
+        editor.click_line("WaypointList", "CAMRN")
+        key("ctrl+Down")
+        key("Delete")
+        editor.expect(editor.lines, "WaypointList", ["CYN", "KARRS", "ASALT", "JFK"])
+        editor.expect(editor.caption, "UndoCommand", "Undo Delete CAMRN")
+        editor.type("FixNameText", "ALPHA")
+        program.picture("undo")
+        key("ctrl+z")
+        editor.expect(editor.text, "FixNameText", "")
+        key("ctrl+z")
+        editor.expect(editor.text, "FixNameText", "CAMRN     ")
+        editor.click("UndoCommand")
+        editor.expect(editor.lines, "WaypointList", ROWS)
+        editor.expect(editor.is_enabled, "UndoCommand", False)
+        editor.expect(editor.caption, "RedoCommand", "Redo Move CAMRN")
+        for again in ("ctrl+y", "ctrl+shift+z"):
+            key(again)
+        editor.expect(editor.lines, "WaypointList", ["CYN", "KARRS", "ASALT", "JFK"])
+
     def test_arrows_go_round_the_restrictions(self):
         program = self.start()
         editor = self.edit(program)

@@ -297,7 +297,8 @@ TEST_P(Roads, LeadWhereTheyAreToldTo) {
 
 INSTANTIATE_TEST_SUITE_P(, Roads,
                          ::testing::Values("screens", "fields", "rows", "select", "save", "open", "search",
-                                           "arc", "derived", "start", "folder", "tools", "faults", "reading"),
+                                           "arc", "undo", "derived", "start", "folder", "tools", "faults",
+                                           "reading"),
                          [](const auto& road) { return std::string(road.param); });
 
 }  // namespace

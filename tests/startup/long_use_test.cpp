@@ -10,6 +10,7 @@
 #include <sstream>
 
 #include "geometry/text_rules.h"
+#include "procedure/procedure_save.h"
 #include "support/random_user.h"
 #include "support/resident_memory.h"
 
@@ -49,7 +50,7 @@ void PutNavigationData(Files& files) {
 
 // How often something happened.
 struct Counts {
-    int starts, changed, added, deleted, moved, arcs, saved, messages;
+    int starts, changed, added, deleted, moved, undone, arcs, saved, messages;
 };
 
 // What stands in a row as Road::Rows tells it: the line in the list, then the row.
@@ -57,10 +58,15 @@ std::string LineOf(const std::string& row) {
     return row.substr(0, row.rfind(": ", row.find('|')));
 }
 
+constexpr std::string_view Undoing[] = {"UndoCommand", "RedoCommand", "key CtrlZ", "key CtrlY"};
+
 // The rows may change at one place: one appended, taken out, altered, or two neighbours exchanged; only an
-// ARC appends more. A line stays what it is as long as its row is there.
+// ARC appends more, and what undoes or redoes has a check of its own. A line stays what it is as long as its
+// row is there.
 std::string CheckRows(const Rows& before, const Rows& now, const std::string& act, Counts& counts) {
     if (now == before) return "";
+    const bool undone = std::ranges::any_of(Undoing, [&act](auto name) { return act.ends_with(name); });
+    if (undone) return ++counts.undone, "";
     std::size_t same = 0;
     while (same < std::min(before.size(), now.size()) && before[same] == now[same]) ++same;
     if (now.size() > before.size()) {
@@ -191,8 +197,35 @@ class LongUse : public ::testing::Test {
         wrong += CheckScreens();
         if (editor != nullptr && road.Screen("ModifyProcedure") == editor) {
             wrong += CheckRows(before, rows, act, counts);
+        } else {
+            opened = Saved();
         }
         return wrong;
+    }
+
+    // The rows with their lines, and the file that they make.
+    Rows Saved() const {
+        Rows saved = road.Rows();
+        saved.push_back(ComposeProcedure(road.program->state.Rows.InUse(), "", "").text);
+        return saved;
+    }
+
+    // Everything undone, to the opening of the editor, done again, and some of it undone for good.
+    std::string CheckUndo() {
+        const auto press = [this](const std::string& button, std::size_t most = 10'000) {
+            while (most > 0 && road.DoOne("ModifyProcedure." + button)) --most;
+        };
+        if (!road.DoOne("to ModifyProcedure.WaypointList")) return "";  // a box keeps the focus
+        press("RedoCommand");
+        const Rows last = Saved();
+        press("UndoCommand");
+        if (Saved() != opened) return "not everything is undone";
+        press("RedoCommand");
+        if (Saved() != last) return "not everything is done again";
+        press("UndoCommand", chance.Below(4));
+        rows = road.Rows();
+        services.messages.Take();
+        return CheckScreens();
     }
 
     std::string CheckMessages(const std::string& act, bool faulty) {
@@ -263,6 +296,7 @@ class LongUse : public ::testing::Test {
     RandomUser user{road, chance};
     Counts counts{};
     Rows rows;
+    Rows opened;         // when the editor came up
     bool fatal = false;  // the program has said that it stops
     std::deque<std::string> trail;
 };
@@ -272,7 +306,11 @@ TEST_F(LongUse, LeavesEverythingInOrder) {
     std::size_t memory = 0;  // behind the first tenth
     Start();
     for (std::size_t number = 0; number < acts; ++number) {
-        const std::string wrong = Act();
+        std::string wrong = Act();
+        if (wrong.empty() && road.Runs() && road.IsThere("ModifyProcedure") && chance.Percent(1)) {
+            trail.push_back("everything is undone and done again");
+            wrong = CheckUndo();
+        }
         while (trail.size() > 25) trail.pop_front();
         if (!wrong.empty()) {
             std::string last;
@@ -289,16 +327,16 @@ TEST_F(LongUse, LeavesEverythingInOrder) {
     }
     const Counts& c = counts;
     std::printf(
-        "%zu acts: %d starts, %d rows added, %d changed, %d deleted, %d moved, %d ARCs, %d saves, %d "
-        "messages\n",
-        acts, c.starts, c.added, c.changed, c.deleted, c.moved, c.arcs, c.saved, c.messages);
+        "%zu acts: %d starts, %d rows added, %d changed, %d deleted, %d moved, %d undone, %d ARCs, "
+        "%d saves, %d messages\n",
+        acts, c.starts, c.added, c.changed, c.deleted, c.moved, c.undone, c.arcs, c.saved, c.messages);
     constexpr std::size_t roomToBreathe = 4 << 20;
     if (acts >= 500'000) {
         EXPECT_LT(ResidentMemory(), memory + roomToBreathe) << "the memory grew";
     }
     // The road is worth something only if the user gets about.
     if (acts < 10'000) return;
-    EXPECT_GT(std::min({c.added, c.changed, c.deleted, c.moved}), 15);
+    EXPECT_GT(std::min({c.added, c.changed, c.deleted, c.moved, c.undone}), 15);
     EXPECT_GT(std::min({c.saved, c.arcs, c.starts}), 5);
 }
 

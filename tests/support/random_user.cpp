@@ -15,6 +15,7 @@ constexpr std::string_view Plans[] = {
     "AptNameText={kxyz/KABC} | BasicNameText={one/TWO} | TransitionText={/thr} | SaveCommand",
     "WaypointList#? | Alt1Text={/0/5000/250/FL35/-5} | "
     "{ModifyWaypointCommand/DeleteWaypointCommand/MoveUp/MoveDown}",
+    "UndoCommand | {UndoCommand/RedoCommand} | {UndoCommand/RedoCommand/MoveUp}",
     "WaypointList#? | {SLatOption/WLongOption/AtOption/AtBelowOption} | ModifyWaypointCommand",
     "ClearDataCommand | {FixNameText/NAVIDText}={a/alpha/fix 1/\\xE9t\\xE9/B-1/KX} | FreqText=113.60 | "
     "DDMLatText={<90} | DMMLatText={<60} | DDMLongText={<180} | DMMLongText=59.999999 | Alt1Text={/5000} | "
@@ -37,8 +38,8 @@ constexpr std::string_view Texts[] = {"0",    "5",  "33", "90", "91",    "117", 
                                       "045",  "60", "-5", "-",  "alpha", "DMO", "12a",  "FL35",
                                       "1e99", ".",  " 7", " x", "X.Y",   "KX",  "\xE9", ""};
 constexpr std::string_view Rubbish = "  --..0123456789ABCabc,\"'eED+&\xE9\\/*?:%;\t";
-constexpr std::string_view Keys[] = {"Tab",    "Tab",      "BackTab", "Delete",
-                                     "CtrlUp", "CtrlDown", "Enter",   "Escape"};
+constexpr std::string_view Keys[] = {"Tab",   "Tab",   "BackTab", "Delete", "CtrlUp", "CtrlDown",
+                                     "CtrlZ", "CtrlZ", "CtrlY",   "Enter",  "Escape"};
 // What leads away from a screen is taken rarely.
 constexpr std::string_view WaysOut[] = {"SaveCommand", "OopsCommand", "ExitCommand", "GoBackCommand"};
 

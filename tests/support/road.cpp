@@ -8,11 +8,11 @@ namespace tarvex::testing {
 
 namespace {
 
-constexpr std::pair<std::string_view, ShortcutKey> Keys[] = {{"Delete", ShortcutKey::Delete},
-                                                             {"CtrlUp", ShortcutKey::CtrlUp},
-                                                             {"CtrlDown", ShortcutKey::CtrlDown},
-                                                             {"CtrlS", ShortcutKey::CtrlS},
-                                                             {"Enter", ShortcutKey::Enter}};
+constexpr std::pair<std::string_view, ShortcutKey> Keys[] = {
+    {"Delete", ShortcutKey::Delete},         {"CtrlUp", ShortcutKey::CtrlUp},
+    {"CtrlDown", ShortcutKey::CtrlDown},     {"CtrlS", ShortcutKey::CtrlS},
+    {"CtrlZ", ShortcutKey::CtrlZ},           {"CtrlY", ShortcutKey::CtrlY},
+    {"CtrlShiftZ", ShortcutKey::CtrlShiftZ}, {"Enter", ShortcutKey::Enter}};
 
 }  // namespace
 

@@ -23,7 +23,8 @@ namespace tarvex::testing {
 //     Name#x,y          clicks a picture, or with > double-clicks it; "#menu N" picks an entry of its menu,
 //                       "=w,h" gives it room; of tabs "#N" shows a page
 //     to Name           moves the focus
-//     key Name          Tab, BackTab, Escape, Delete, CtrlUp, CtrlDown, CtrlS or Enter, in front
+//     key Name          Tab, BackTab, Escape, Delete, CtrlUp, CtrlDown, CtrlS, CtrlZ, CtrlY, CtrlShiftZ or
+//                       Enter, in front
 //     close Screen      closes the window
 //     front Screen      brings the window to the front
 //     Yes, No           answers the next question; without an answer it gets its default

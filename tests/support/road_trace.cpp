@@ -54,7 +54,8 @@ std::string KindOf(const Control& control) {
     return "drives";
 }
 
-constexpr const char* KeyNames[] = {"Delete", "CtrlUp", "CtrlDown", "CtrlS", "Enter"};  // by ShortcutKey
+constexpr const char* KeyNames[] = {"Delete", "CtrlUp", "CtrlDown",   "CtrlS",
+                                    "CtrlZ",  "CtrlY",  "CtrlShiftZ", "Enter"};  // by ShortcutKey
 
 }  // namespace
 
@@ -215,7 +216,9 @@ Road::State Road::StateOf(const Control& control) {
         const auto* label = dynamic_cast<const Label*>(&control);
         if (label != nullptr) parts["colour"] = ColourName(label->ForeColor());
     }
-    if (const auto* option = dynamic_cast<const OptionButton*>(&control)) {
+    if (const auto* button = dynamic_cast<const Button*>(&control)) {
+        parts["tip"] = button->Tip().empty() ? "" : Quoted(button->Tip());
+    } else if (const auto* option = dynamic_cast<const OptionButton*>(&control)) {
         parts["value"] = option->Value() ? "picked" : "";
     } else if (const auto* check = dynamic_cast<const CheckBox*>(&control)) {
         parts["value"] = check->Value() == 0 ? "unchecked" : "checked";
@@ -256,12 +259,13 @@ Road::States Road::StatesNow() const {
     return states;
 }
 
-// The pictures of the editor show once more what its rows and boxes hold; a road that is about them sees them
-// by name.
-bool IsOfPictures(std::string_view name) {
-    constexpr std::string_view names[] = {"FitCommand",    "LegsList",           "PictureLabel",
-                                          "PictureTabs",   "PlanPicture",        "ProfilePicture",
-                                          "ZoomInCommand", "SavePictureCommand", "ZoomOutCommand"};
+// The pictures of the editor show once more what its rows and boxes hold, and most acts on rows change what
+// can be undone; a road that is about these sees them by name.
+bool IsSeenByName(std::string_view name) {
+    constexpr std::string_view names[] = {"FitCommand",         "LegsList",      "PictureLabel",
+                                          "PictureTabs",        "PlanPicture",   "ProfilePicture",
+                                          "RedoCommand",        "UndoCommand",   "ZoomInCommand",
+                                          "SavePictureCommand", "ZoomOutCommand"};
     return std::find(std::begin(names), std::end(names), name) != std::end(names);
 }
 
@@ -292,7 +296,7 @@ void Road::NoteChanges(const States& before) {
     std::string line;
     for (const auto& [name, now] : StatesNow()) {
         const auto found = before.find(name);
-        if (found == before.end() || IsOfPictures(name.substr(name.find('.') + 1))) continue;
+        if (found == before.end() || IsSeenByName(name.substr(name.find('.') + 1))) continue;
         std::string changes;
         if (now.text != found->second.text) changes += " " + Quoted(now.text);
         for (const auto& [part, value] : now.parts) {
