@@ -8,6 +8,7 @@
 #include <wx/settings.h>
 
 #include "chart/symbols.h"
+#include "desktop/window_system.h"
 
 namespace tarvex {
 
@@ -50,9 +51,8 @@ wxString WordsFace(wxGraphicsContext& canvas) {
 wxGraphicsFont FontOf(wxGraphicsContext& canvas, double size, bool bold, const wxColour& colour) {
 #ifdef __WXGTK__
     const wxString face = wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT).GetFaceName();
-    // A size in pixels would be that of the line, which is higher. Canvases have 96 of them to an inch.
-    constexpr double PointsOfPixel = 72.0 / 96.0;
-    return canvas.CreateFont(wxFontInfo(size * PointsOfPixel).FaceName(face).Bold(bold), colour);
+    // A size in pixels would be that of the line, which is higher. Whoever paints has scaled the canvas.
+    return canvas.CreateFont(wxFontInfo(size * 72 / DotsPerInch()).FaceName(face).Bold(bold), colour);
 #else
     static const wxString face = WordsFace(canvas);
     return canvas.CreateFont(size, face, bold ? wxFONTFLAG_BOLD : wxFONTFLAG_DEFAULT, colour);

@@ -115,6 +115,12 @@ void LevelLines(wxDataViewCtrl& list) {
     gtk_tree_view_set_fixed_height_mode(GTK_TREE_VIEW(list.GtkGetTreeView()), TRUE);
 }
 
+double DotsPerInch() {
+    constexpr double Usual = 96;
+    const double known = gdk_screen_get_resolution(gdk_screen_get_default());
+    return known > 0 ? known : Usual;
+}
+
 #else
 
 namespace {

@@ -35,4 +35,9 @@ void ActivateByClick(wxDataViewCtrl& list);
 // Lets a list whose columns have fixed widths lay out only the lines in sight, all as high as the first.
 void LevelLines(wxDataViewCtrl& list);
 
+#ifdef __WXGTK__
+// By which the system makes pixels of a font's points; higher where the user wants larger letters.
+double DotsPerInch();
+#endif
+
 }  // namespace tarvex
