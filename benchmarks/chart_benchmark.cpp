@@ -172,10 +172,12 @@ void PlanSceneSweep(benchmark::State& state) {
             Route route = LongRoute(middle);
             route.points.resize(12);
             const PlanContent content{.route = route, .tables = dense.tables, .grid = grid};
-            for (double scale = LeastScale(Screen); scale < MostScale; scale *= 1.5) {
+            double scale = LeastScale(Screen);
+            while (scale < MostScale) {
                 const double time = MillisecondsOfScene({middle, scale, Screen}, content);
                 if (time > slowest) scaleOfSlowest = scale;
                 slowest = std::max(slowest, time);
+                scale *= 1.5;
             }
         }
     }

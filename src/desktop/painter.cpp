@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include <wx/brush.h>
 #include <wx/fontenum.h>
@@ -23,7 +24,7 @@ constexpr std::array<wxDash, 2> Dashes = {4, 3};  // times the line's width
 
 wxColour ColourOf(const Ink& ink) {
     const auto part = [&ink](unsigned shift) { return static_cast<unsigned char>(ink.colour >> shift); };
-    return {part(16), part(8), part(0), static_cast<unsigned char>(ink.opacity * 255 + 0.5)};
+    return {part(16), part(8), part(0), static_cast<unsigned char>(std::lround(ink.opacity * 255))};
 }
 
 #ifndef __WXGTK__

@@ -36,7 +36,8 @@ class PositionGridTest : public ::testing::Test {
             AddFix(std::to_string(share(random) * 90), std::to_string(share(random) * 180));
         }
         for (int i = 0; i < 40; ++i) {
-            tables.NavaidTable[++tables.NavaidCount] = {"NAV", "113.60", std::to_string(i), "0"};
+            tables.NavaidTable[static_cast<std::size_t>(++tables.NavaidCount)] = {"NAV", "113.60",
+                                                                                  std::to_string(i), "0"};
         }
     }
     void AddFix(std::string_view latitude, std::string_view longitude) {

@@ -10,29 +10,17 @@ namespace {
 // What a user sets out to do. Of "{a/b}" one is taken, "{<90}" is a number below 90, and "Name#?" is any
 // line.
 constexpr std::string_view Plans[] = {
-    "{CreateDP/CreateSTAR/CreateIAP}",
-    "{ModifyDP/ModifySTAR/ModifyIAP} | FileList#?",
-    "AptNameText={kxyz/KABC} | BasicNameText={one/TWO} | TransitionText={/thr} | SaveCommand",
-    "WaypointList#? | Alt1Text={/0/5000/250/FL35/-5} | "
-    "{ModifyWaypointCommand/DeleteWaypointCommand/MoveUp/MoveDown}",
-    "UndoCommand | {UndoCommand/RedoCommand} | {UndoCommand/RedoCommand/MoveUp}",
-    "WaypointList#? | {SLatOption/WLongOption/AtOption/AtBelowOption} | ModifyWaypointCommand",
-    "ClearDataCommand | {FixNameText/NAVIDText}={a/alpha/fix 1/\\xE9t\\xE9/B-1/KX} | FreqText=113.60 | "
-    "DDMLatText={<90} | DMMLatText={<60} | DDMLongText={<180} | DMMLongText=59.999999 | Alt1Text={/5000} | "
-    "AddWaypointCommand",
-    "{FindFixCommand/FindNavCommand/FindAirportCommand} | "
-    "SearchText={aagee/TWICE/BADLY/ACY/ap/POLE/kden/KLAX/QQ/} | SearchCommand | WaypointListBox#? | "
-    "AddWaypoint | {AddWaypointCommand/ClearDataCommand}",
-    "AddArcCommand | AddARC.Command1 | SearchText={acy/AP/POLE} | SearchCommand | AddWaypoint | "
-    "ArcStartText={<361} | ArcEndText={<361} | ArcRadiusText={<60} | MagVarText={/13} | "
-    "{RightOption/LeftOption} | AddARC.TransferCommand",
-    "AddArcCommand | LatLongCommand | DLatCenterText={0/33/90/91/-5/12a} | MLatCenterText=30 | "
-    "DLongCenterText={<181} | {SouthOption/WestOption} | LatLongForm.DoneCommand | ArcStartText={<361} | "
-    "ArcEndText={<361} | ArcRadiusText={<60} | {RightOption/LeftOption} | AddARC.TransferCommand",
-    "CreateWaypointCommand | {FixCommand/NavaidCommand/RunwayCommand} | "
-    "SearchText={aagee/AALST/ACY/KDEN} | SearchCommand | WaypointListBox#? | AddWaypoint | "
-    "TrueCourseText={<362} | DistText={<9999} | WaypointIDText={a/KX} | CreateWaypointForm.TransferCommand | "
-    "AddWaypointCommand",
+    R"({CreateDP/CreateSTAR/CreateIAP})",
+    R"({ModifyDP/ModifySTAR/ModifyIAP} | FileList#?)",
+    R"(AptNameText={kxyz/KABC} | BasicNameText={one/TWO} | TransitionText={/thr} | SaveCommand)",
+    R"(WaypointList#? | Alt1Text={/0/5000/250/FL35/-5} | {ModifyWaypointCommand/DeleteWaypointCommand/MoveUp/MoveDown})",
+    R"(UndoCommand | {UndoCommand/RedoCommand} | {UndoCommand/RedoCommand/MoveUp})",
+    R"(WaypointList#? | {SLatOption/WLongOption/AtOption/AtBelowOption} | ModifyWaypointCommand)",
+    R"(ClearDataCommand | {FixNameText/NAVIDText}={a/alpha/fix 1/\xE9t\xE9/B-1/KX} | FreqText=113.60 | DDMLatText={<90} | DMMLatText={<60} | DDMLongText={<180} | DMMLongText=59.999999 | Alt1Text={/5000} | AddWaypointCommand)",
+    R"({FindFixCommand/FindNavCommand/FindAirportCommand} | SearchText={aagee/TWICE/BADLY/ACY/ap/POLE/kden/KLAX/QQ/} | SearchCommand | WaypointListBox#? | AddWaypoint | {AddWaypointCommand/ClearDataCommand})",
+    R"(AddArcCommand | AddARC.Command1 | SearchText={acy/AP/POLE} | SearchCommand | AddWaypoint | ArcStartText={<361} | ArcEndText={<361} | ArcRadiusText={<60} | MagVarText={/13} | {RightOption/LeftOption} | AddARC.TransferCommand)",
+    R"(AddArcCommand | LatLongCommand | DLatCenterText={0/33/90/91/-5/12a} | MLatCenterText=30 | DLongCenterText={<181} | {SouthOption/WestOption} | LatLongForm.DoneCommand | ArcStartText={<361} | ArcEndText={<361} | ArcRadiusText={<60} | {RightOption/LeftOption} | AddARC.TransferCommand)",
+    R"(CreateWaypointCommand | {FixCommand/NavaidCommand/RunwayCommand} | SearchText={aagee/AALST/ACY/KDEN} | SearchCommand | WaypointListBox#? | AddWaypoint | TrueCourseText={<362} | DistText={<9999} | WaypointIDText={a/KX} | CreateWaypointForm.TransferCommand | AddWaypointCommand)",
 };
 constexpr std::string_view Texts[] = {"0",    "5",  "33", "90", "91",    "117", "181",  "12.5",
                                       "045",  "60", "-5", "-",  "alpha", "DMO", "12a",  "FL35",
