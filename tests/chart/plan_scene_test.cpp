@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <random>
 
+#include "chart/airport.h"
 #include "chart/even_letters.h"
 #include "chart/plan_view.h"
 #include "chart/target_words.h"
@@ -330,6 +331,13 @@ TEST_F(PlanSceneTest, WordsCoverNothing) {
             }
         }
     }
+}
+
+TEST(AirportTest, RunwayHasAnOppositeEnd) {
+    const std::pair<const char*, const char*> ends[] = {{"07L", "25R"}, {"25R", "07L"}, {"36", "18"},
+                                                        {"01C", "19C"}, {"18", "36"},   {"37", ""},
+                                                        {"0", ""},      {"H1", ""}};
+    for (const auto& [end, opposite] : ends) EXPECT_EQ(OppositeEnd(end), opposite) << end;
 }
 
 }  // namespace

@@ -46,9 +46,18 @@ std::string KindOf(const Control& control) {
     if (dynamic_cast<const OptionButton*>(&control)) return "option";
     if (dynamic_cast<const CheckBox*>(&control)) return "check";
     if (dynamic_cast<const Frame*>(&control)) return "frame";
+    if (const auto* list = dynamic_cast<const ColumnList*>(&control)) {
+        std::string kind = "list of";
+        for (const auto& column : list->Columns()) kind += " " + column.heading + (column.number ? ">" : "");
+        return kind;
+    }
     if (dynamic_cast<const ListBox*>(&control)) return "list";
     if (dynamic_cast<const Picture*>(&control)) return "picture";
-    if (dynamic_cast<const Tabs*>(&control)) return "tabs";
+    if (const auto* tabs = dynamic_cast<const Tabs*>(&control)) {
+        std::string kind = "tabs";
+        for (const auto& page : tabs->Pages()) kind += " " + page.caption;
+        return kind;
+    }
     if (dynamic_cast<const FileList*>(&control)) return "files";
     if (dynamic_cast<const FolderList*>(&control)) return "folders";
     return "drives";

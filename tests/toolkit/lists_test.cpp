@@ -47,6 +47,8 @@ TEST_F(ListsTest, PathOfADriveIsItsCurrentFolder) {
     FolderList& list = Form().Dir;
     list.SetPath("D:\\");
     EXPECT_EQ(list.Path(), "D:\\");
+    list.SetPath("C:\\Games\\");
+    EXPECT_EQ(list.Path(), "C:\\Games");
     list.SetPath("C:");
     for (const char* missing : {"C:\\gone", "E:\\"}) {
         EXPECT_EQ(NumberOf([&] { list.SetPath(missing); }), PathNotFound);
