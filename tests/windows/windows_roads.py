@@ -22,7 +22,8 @@ REGISTRY_KEY = r"HKLM\Software\Microsoft\Microsoft Games\Flight Simulator\7.0"
 STAR = "KJFK-CAMRN4.wst"
 MENU, PICKER, EDITOR, FOLDER = "Tarvex", "Procedure Select", "Modify a Procedure", " "
 NEW_PROCEDURE = "Create a Procedure"
-SELECTED = bytes.fromhex("c8381b")  # the selected row in pictures
+# Colours of pictures: the selected row, a fix of the tables, what is no row yet.
+SELECTED, FIX, DRAFT = (bytes.fromhex(colour) for colour in ("c8381b", "8792a0", "7b3fb5"))
 HEADER = re.compile(rb"; This Terminal Procedure generated on \d{1,2}/\d{1,2}/\d{2,4} by Tarvex 2\.35\r\n")
 
 
@@ -351,6 +352,32 @@ def middle_of_run(window, colour):
     return middle % width, middle // width
 
 
+def fix_taken_from_the_chart(machine, picture):
+    machine.set_up()
+    machine.settings(rb"C:\FS2000")
+    before = machine.star().read_bytes()
+    with machine.program():
+        open_star()
+        editor = wait_for(EDITOR)
+        symbol = poll(lambda: middle_of_run(editor, FIX), "fix in the chart")
+        run("xdotool", "mousemove", "--sync", "--window", editor, *map(str, symbol),
+            "click", "--repeat", "2", "--delay", "80", "1")
+        time.sleep(1)  # the boxes are filled, and the waypoint is drawn where it would be
+        poll(lambda: middle_of_run(editor, DRAFT), "waypoint drawn from the boxes")
+        picture()
+        keys("Tab", "Tab", "Return")  # from the altitude over the airspeed to Add
+        time.sleep(0.5)
+        keys("ctrl+s")
+        wait_for(MENU)
+        rows = machine.star().read_bytes().split(b"\r\n")
+        added = [row.split(b",") for row in rows if row.startswith(b"W,") and row not in before]
+        require(len(added) == 1, f"rows added: {added}")
+        fixes = (machine.simulator / "GIOSTAM/navdata/wpNavFIX.txt").read_bytes().split(b"\n")
+        own = [fix for fix in fixes if fix[24:29].strip() == added[0][1]]
+        require(any(abs(float(fix[29:39]) - float(added[0][4])) < 2e-6 and
+                    abs(float(fix[39:50]) - float(added[0][5])) < 2e-6 for fix in own), f"{added[0]} is none of {own}")
+
+
 def click_on_the_chart(machine, picture):
     machine.set_up()
     machine.settings(rb"C:\FS2000")
@@ -396,6 +423,7 @@ ROADS = [
     shutting_down,
     double_click_on_the_way_out,
     click_on_the_chart,
+    fix_taken_from_the_chart,
     native_program_beside_the_prefix,
 ]
 
