@@ -1,11 +1,11 @@
 #include "desktop/program_icon.h"
 
 #ifndef __WXMSW__
+#include <tarvex_icon.h>
+
 #include <wx/bitmap.h>
 #include <wx/image.h>
 #include <wx/mstream.h>
-
-#include <tarvex_icon.h>
 #endif
 
 namespace tarvex {

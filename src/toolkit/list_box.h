@@ -44,7 +44,6 @@ class ListBox : public Control {
     std::function<void()> OnClick;
 
   private:
-
     std::vector<std::string> lines_;
     int listIndex_ = NoSelection;
     int newestLine_ = NoSelection;
