@@ -3,6 +3,8 @@
 #include <memory>
 #include <stdexcept>
 
+#include "support/test_services.h"
+#include "toolkit/dialogue.h"
 #include "toolkit/user_door.h"
 
 namespace tarvex {
@@ -338,6 +340,19 @@ TEST_F(FormsTest, TypingIsCutAtTheLimitAndTakingAwayIsFree) {
     EXPECT_EQ(typed("ABCx     "), "ABC     ");
     EXPECT_EQ(typed("ABC      x"), "ABC     ");
     EXPECT_EQ(typed("AB     "), "AB     ");
+}
+
+TEST(DialogueTest, KeepsTheLastAnswerAsItsNumber) {
+    testing::ScriptedMessageBox messages;
+    std::string answer;
+    Dialogue dialogue(messages, answer);
+    dialogue.Ask({.prompt = "done"});
+    EXPECT_EQ(answer, "1");
+    for (const auto& [given, number] : {std::pair{MessageAnswer::Yes, "6"}, {MessageAnswer::No, "7"}}) {
+        messages.Answer(given);
+        EXPECT_EQ(dialogue.Ask({.prompt = "again?", .buttons = MessageButtons::YesNo}), given);
+        EXPECT_EQ(answer, number);
+    }
 }
 
 }  // namespace
