@@ -87,9 +87,10 @@ std::vector<LegsLine> LegsLines(const Route& route) {
     return lines;
 }
 
-std::string LegsText(const Route& route) {
+std::string LegsText(const Route& route, const std::vector<int>& rows) {
     std::string text(Headings);
-    for (const auto& line : LegsLines(route)) {
+    for (int row = 0; const auto& line : LegsLines(route)) {
+        if (!rows.empty() && std::ranges::find(rows, row++) == rows.end()) continue;
         for (const auto* cell : {&line.number, &line.name, &line.course, &line.distance, &line.sum,
                                  &line.altitude, &line.speed}) {
             text += *cell + "\t";

@@ -35,8 +35,9 @@ struct LegsLine {
 
 std::vector<LegsLine> LegsLines(const Route& route);
 
-// All lines behind one of headings, their columns parted by tabs, each ended by CR LF.
-std::string LegsText(const Route& route);
+// The lines of the rows, of all where none are given, behind one of headings, their columns parted by tabs,
+// each ended by CR LF.
+std::string LegsText(const Route& route, const std::vector<int>& rows = {});
 
 // "6 waypoints, 83.4 miles, from TRM to BASET"; rows without a position are told behind it.
 std::string RouteSentence(const Route& route);

@@ -144,6 +144,7 @@ void ModifyProcedure::RowsChanged(const ProcedureRows::Change& change) {
             WaypointList.RemoveItem(change.row);
             break;
         case ProcedureRows::Change::Kind::Exchanged:
+        case ProcedureRows::Change::Kind::Arranged:
         case ProcedureRows::Change::Kind::Assigned:
             WaypointList.SetLines(lines);
             break;

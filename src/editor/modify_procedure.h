@@ -103,6 +103,9 @@ class ModifyProcedure : public Form, private RowsObserver {
         return {{ShortcutKey::Delete, &WaypointList, &DeleteWaypointCommand},
                 {ShortcutKey::CtrlUp, &WaypointList, &MoveUp},
                 {ShortcutKey::CtrlDown, &WaypointList, &MoveDown},
+                {ShortcutKey::Delete, &Pictures.LegsList, nullptr, [this] { DeleteBlock(); }},
+                {ShortcutKey::CtrlUp, &Pictures.LegsList, nullptr, [this] { MoveBlock(-1); }},
+                {ShortcutKey::CtrlDown, &Pictures.LegsList, nullptr, [this] { MoveBlock(1); }},
                 {ShortcutKey::CtrlS, nullptr, &SaveCommand},
                 {ShortcutKey::CtrlZ, nullptr, &UndoCommand},
                 {ShortcutKey::CtrlY, nullptr, &RedoCommand},
@@ -153,6 +156,11 @@ class ModifyProcedure : public Form, private RowsObserver {
     void DeleteWaypointCommand_Click();
     void MoveUp_Click();
     void MoveDown_Click();
+    // The same of all rows that are selected in LegsList, which keeps the focus: delete them, move each by
+    // one, up (-1) or down (1), or together in front of a row (modify_procedure_blocks.cpp).
+    void DeleteBlock();
+    void MoveBlock(int by);
+    void MoveBlockBefore(int row);
     // Take back the last act on the rows, or do it again, and select the row that it came to. Where that has
     // gone, a selection ends, and the boxes of a waypoint that is not in the procedure yet stay.
     void UndoCommand_Click() { Retrace(&ProcedureRows::Undo); }
@@ -206,6 +214,8 @@ class ModifyProcedure : public Form, private RowsObserver {
     void Retrace(std::optional<int> (ProcedureRows::*step)());
     // Exchanges the selected row with its neighbour, one up (-1) or down (1), and selects it there.
     void MoveSelected(int by);
+    std::string BlockStepName(const std::string& act) const;
+    void ArrangeBlock(const std::vector<int>& order);
 
     // Opens the search anew as a tool of `opener`.
     void OpenSearch(std::string_view kind, const Form& opener, std::function<void(const SearchHit&)> take);

@@ -91,7 +91,7 @@ void ProcedurePicture::Update() {
         if (!profileMoved_) FitProfile();
         ShowLegs();
     }
-    LegsList.SetListIndex(editor_.WaypointList.ListIndex());
+    ShowSelected();
     if (PictureTabs.Index() == Chart) ShowPlan();
     if (PictureTabs.Index() == Profile) ShowProfile();
     for (Button* button : {&ZoomInCommand, &ZoomOutCommand, &FitCommand}) {
@@ -214,6 +214,16 @@ void ProcedurePicture::ShowLegs() {
     ProfilePicture.SetSentence("Profile: " + sentence);
 }
 
+// What is selected there lasts as long as its current line is that of the list of waypoints.
+void ProcedurePicture::ShowSelected() {
+    const std::vector<int> block = std::exchange(block_, {});
+    if (!block.empty()) {
+        LegsList.SetSelected(block, SelectedRow());
+    } else if (LegsList.ListIndex() != SelectedRow()) {
+        LegsList.SetListIndex(SelectedRow());
+    }
+}
+
 void ProcedurePicture::ShowWords() {
     PictureLabel.SetCaption(Words());
     const std::string tip = WordsOf(pointed_);
@@ -229,6 +239,9 @@ std::string ProcedurePicture::WordsOf(const Target& target) const {
 std::string ProcedurePicture::Words() const {
     for (const Target& target : {pointed_, marked_}) {
         if (target.kind != Target::Kind::None) return WordsOf(target);
+    }
+    if (const auto rows = LegsList.Selected().size(); rows > 1) {
+        return NumberText(static_cast<double>(rows)) + " waypoints are selected.";
     }
     if (route_.points.empty()) return std::string(view_ ? "" : Hint);
     return RouteSentence(route_);

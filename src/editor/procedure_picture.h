@@ -39,6 +39,8 @@ class ProcedurePicture {
     Label PictureLabel;  // what is pointed at or marked, else what there is to say of the whole
 
     void RowsChanged(const ProcedureRows::Change& change);
+    // The rows that were selected in LegsList moved to these: they stay selected.
+    void KeepBlock(std::vector<int> rows);
     // Brings the pictures in line with everything that they show.
     void Update();
 
@@ -69,6 +71,7 @@ class ProcedurePicture {
 
     void Choose(const Target& target);
     void ClickRow(int row);
+    void ReturnToLegs();
     void Take(bool add);
     std::vector<MenuEntry> MenuFor(const Target& target);
     void Zoom(double steps);
@@ -89,6 +92,7 @@ class ProcedurePicture {
     void ShowPlan();
     void ShowProfile();
     void ShowLegs();
+    void ShowSelected();
     void ShowWords();
     std::string WordsOf(const Target& target) const;
     std::string Words() const;
@@ -102,6 +106,7 @@ class ProcedurePicture {
     int rows_ = 0;              // counts the changes of the rows
     int routeOf_ = -1;          // which of them the route shows
     std::vector<int> newRows_;  // since the last update
+    std::vector<int> block_;    // to be selected in LegsList by the next update
     PlanDrafts drafts_;
     SearchTargets found_;
     Target marked_;

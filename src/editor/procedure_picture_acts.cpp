@@ -63,10 +63,14 @@ void ProcedurePicture::ConnectRest() {
         const int row = LegsList.ListIndex();
         if (row == ListBox::NoSelection || row == editor_.WaypointList.ListIndex()) return;
         ClickRow(row);
-        // So that the arrow keys go on from line to line.
-        LegsList.SetFocus();
+        ReturnToLegs();
     };
-    LegsList.OnCopy = [this] { workplace_.platform.pictures.Copy(LegsText(route_)); };
+    LegsList.OnMove = [this](int before) { editor_.MoveBlockBefore(before); };
+    LegsList.OnCopy = [this] {
+        const std::vector<int> rows = LegsList.Selected();
+        const bool all = rows.size() < 2;
+        workplace_.platform.pictures.Copy(LegsText(route_, all ? std::vector<int>() : rows));
+    };
     PictureTabs.OnClick = [this] { pointed_ = {}; };
     ZoomInCommand.OnClick = [this] { Zoom(1); };
     ZoomOutCommand.OnClick = [this] { Zoom(-1); };
@@ -91,6 +95,16 @@ void ProcedurePicture::ClickRow(int row) {
     ListBox& list = editor_.WaypointList;
     list.SetFocus();
     if (list.HasFocus() && row < list.ListCount()) list.SetListIndex(row);
+}
+
+void ProcedurePicture::KeepBlock(std::vector<int> rows) {
+    block_ = std::move(rows);
+    ReturnToLegs();
+}
+
+// So that the keys go on from line to line; a box that complains of what the row brought it has the focus.
+void ProcedurePicture::ReturnToLegs() {
+    if (editor_.WaypointList.HasFocus()) LegsList.SetFocus();
 }
 
 void ProcedurePicture::Take(bool add) {

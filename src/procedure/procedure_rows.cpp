@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "procedure/row_block.h"
 #include "toolkit/failure.h"
 
 namespace tarvex {
@@ -38,6 +39,9 @@ std::optional<int> ProcedureRows::Make(KeptChange& kept) {
         lines_.erase(line);
         --count_;
         came.reset();
+    } else if (kind == Change::Kind::Arranged) {
+        PutInOrder(kept.order);
+        came = other;
     } else {
         std::swap(*at, table_[Index(other)]);
         std::swap(*line, lines_[Index(other)]);
@@ -51,6 +55,11 @@ std::optional<int> ProcedureRows::TakeBack(KeptChange& kept) {
     const auto [kind, row, other] = kept.change;
     if (kind == Change::Kind::Replaced || kind == Change::Kind::Exchanged) {
         Make(kept);
+        return row;
+    }
+    if (kind == Change::Kind::Arranged) {
+        PutInOrder(PlacesIn(kept.order));
+        Tell(kept.change);
         return row;
     }
     const auto at = table_.begin() + row;
@@ -69,6 +78,19 @@ std::optional<int> ProcedureRows::TakeBack(KeptChange& kept) {
     lines_.insert(line, std::exchange(kept.line, {}));
     Tell({Change::Kind::Inserted, row});
     return row;
+}
+
+void ProcedureRows::PutInOrder(const std::vector<int>& order) {
+    std::vector<WaypointRecord> rows;
+    std::vector<std::string> lines;
+    rows.reserve(order.size());
+    lines.reserve(order.size());
+    for (const int row : order) {
+        rows.push_back(std::move(table_[Index(row)]));
+        lines.push_back(std::move(lines_[Index(row)]));
+    }
+    std::move(rows.begin(), rows.end(), table_.begin());
+    lines_ = std::move(lines);
 }
 
 void ProcedureRows::Carry(KeptChange kept) {
@@ -109,6 +131,15 @@ void ProcedureRows::Exchange(int index, int other) {
     RequireInUse(index);
     RequireInUse(other);
     Carry({{Change::Kind::Exchanged, index, other}});
+}
+
+void ProcedureRows::Arrange(std::vector<int> order, int row) {
+    RequireInUse(row);
+    if (std::cmp_not_equal(order.size(), count_) || !IsOrder(order)) {
+        throw Failure(BadArgument, "this is no order of the rows");
+    }
+    const int place = PlacesIn(order)[Index(row)];
+    Carry({.change = {Change::Kind::Arranged, row, place}, .order = std::move(order)});
 }
 
 void ProcedureRows::Assign(std::span<const WaypointRecord> rows) {

@@ -32,6 +32,9 @@ class ProcedureRows {
     // Moves the rows behind it up. The row set free takes what the first free row holds, where there is one.
     void Erase(int index);
     void Exchange(int index, int other);
+    // Puts row order[i] into place i, for all rows in use; BadArgument unless each of them comes once. `row`
+    // is the one that counts as moved when it comes to selecting it.
+    void Arrange(std::vector<int> order, int row);
     // New rows instead of all; each line is the row's name with its trailing blanks. BadArgument for more
     // than there is room for.
     void Assign(std::span<const WaypointRecord> rows);
@@ -63,6 +66,7 @@ class ProcedureRows {
     // Makes the change, and takes it back; the row that it came to.
     std::optional<int> Make(KeptChange& kept);
     std::optional<int> TakeBack(KeptChange& kept);
+    void PutInOrder(const std::vector<int>& order);
 
     WaypointRows table_;
     std::int32_t count_ = 0;

@@ -67,7 +67,9 @@ std::size_t RowsHistory::Bytes() const {
     std::size_t bytes = steps_.size() * sizeof(Step);
     for (const Step& step : steps_) {
         bytes += HeapBytes(step.name) + step.changes.capacity() * sizeof(KeptChange);
-        for (const KeptChange& kept : step.changes) bytes += HeapBytes(kept.record) + HeapBytes(kept.line);
+        for (const KeptChange& kept : step.changes) {
+            bytes += HeapBytes(kept.record) + HeapBytes(kept.line) + kept.order.capacity() * sizeof(int);
+        }
     }
     return bytes;
 }

@@ -13,10 +13,10 @@ namespace tarvex {
 
 // What became of the rows of a procedure.
 struct RowsChange {
-    enum class Kind { Appended, Inserted, Replaced, Erased, Exchanged, Assigned };
+    enum class Kind { Appended, Inserted, Replaced, Erased, Exchanged, Arranged, Assigned };
     Kind kind;
-    int row = 0;    // that came, was replaced or erased, or the one that was exchanged ...
-    int other = 0;  // ... with this one
+    int row = 0;  // that came, was replaced or erased, was exchanged with the other or moved to its place
+    int other = 0;
 };
 
 // A change of rows with what they do not hold: once it is made what it took away, before that, and when it is
@@ -25,6 +25,7 @@ struct KeptChange {
     RowsChange change;
     WaypointRecord record{};
     std::string line{};
+    std::vector<int> order{};  // of rows that were arranged
 };
 
 // The steps that were made of the rows and those that were taken back, each with a name and its changes. It

@@ -1,6 +1,8 @@
 #include "toolkit/list_box.h"
 
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 #include "toolkit/failure.h"
 
@@ -8,11 +10,27 @@ namespace tarvex {
 
 void ListBox::SetListIndex(int index) {
     if (index < NoSelection || index >= ListCount()) throw Failure(BadArgument, Name() + " has no such line");
-    if (listIndex_ == index) return;
-    listIndex_ = index;
+    SetSelected(index == NoSelection ? std::vector<int>() : std::vector{index}, index);
+}
+
+std::vector<int> ListBox::Selected() const {
+    if (!block_.empty()) return block_;
+    return listIndex_ == NoSelection ? std::vector<int>() : std::vector{listIndex_};
+}
+
+void ListBox::SetSelected(std::vector<int> lines, int index) {
+    const bool rising = std::adjacent_find(lines.begin(), lines.end(), std::greater_equal()) == lines.end();
+    const bool there = lines.empty() || (lines.front() >= 0 && lines.back() < ListCount());
+    if (!rising || !there || std::binary_search(lines.begin(), lines.end(), index) == lines.empty()) {
+        throw Failure(BadArgument, Name() + " has no such lines");
+    }
+    if (lines.size() < 2) lines.clear();
+    if (listIndex_ == index && block_ == lines) return;
+    block_ = std::move(lines);
+    const bool clicked = std::exchange(listIndex_, index) != index;
     if (index != NoSelection) newestLine_ = index;
     Changed();
-    Run(OnClick);
+    if (clicked) Run(OnClick);
 }
 
 std::string ListBox::Text() const {
@@ -26,6 +44,7 @@ void ListBox::AddItem(std::string_view text) {
 void ListBox::AddItem(std::string_view text, int index) {
     if (index < 0 || index > ListCount()) throw Failure(BadArgument, Name() + " has no such line");
     lines_.emplace(lines_.begin() + index, text);
+    block_.clear();
     if (listIndex_ >= index) ++listIndex_;
     newestLine_ = index;
     Changed();
@@ -34,6 +53,7 @@ void ListBox::AddItem(std::string_view text, int index) {
 void ListBox::RemoveItem(int index) {
     if (index < 0 || index >= ListCount()) throw Failure(BadArgument, Name() + " has no such line");
     lines_.erase(lines_.begin() + index);
+    block_.clear();
     if (listIndex_ == index) {
         listIndex_ = NoSelection;
     } else if (listIndex_ > index) {
@@ -49,6 +69,7 @@ void ListBox::Clear() {
 
 void ListBox::SetLines(std::vector<std::string> lines) {
     lines_ = std::move(lines);
+    block_.clear();
     listIndex_ = NoSelection;
     newestLine_ = NoSelection;
     Changed();

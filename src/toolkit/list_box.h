@@ -8,7 +8,8 @@
 
 namespace tarvex {
 
-// A list of lines of which at most one is selected. Line indexes count from 0.
+// A list of lines of which at most one is selected, or several of them, one of which is the current line.
+// Line indexes count from 0.
 class ListBox : public Control {
   public:
     static constexpr int NoSelection = -1;
@@ -20,15 +21,20 @@ class ListBox : public Control {
     const std::vector<std::string>& Lines() const { return lines_; }
 
     int ListIndex() const { return listIndex_; }
-    // NoSelection ends the selection. Runs OnClick when the selection changes.
+    // NoSelection ends the selection. Runs OnClick when the current line changes.
     void SetListIndex(int index);
-    // The text of the selected line; empty without a selection.
+    // The selected lines in rising order, with the current one.
+    std::vector<int> Selected() const;
+    // Selects several lines in rising order; `index`, one of them, becomes the current one as above.
+    void SetSelected(std::vector<int> lines, int index);
+    // The text of the current line; empty without a selection.
     std::string Text() const;
 
     void AddItem(std::string_view text);
-    // Inserts in front of line `index`. The selected line stays selected wherever it comes to stand.
+    // Inserts in front of line `index`. The current line stays selected wherever it comes to stand, others
+    // that were selected with it do not, here as in what follows.
     void AddItem(std::string_view text, int index);
-    // Ends the selection, without OnClick, when the line is the selected one.
+    // Ends the selection, without OnClick, when the line is the current one.
     void RemoveItem(int index);
     // Ends the selection too, without OnClick.
     void Clear();
@@ -46,10 +52,12 @@ class ListBox : public Control {
   private:
     std::vector<std::string> lines_;
     int listIndex_ = NoSelection;
+    std::vector<int> block_;  // the selected lines where there are several
     int newestLine_ = NoSelection;
 };
 
-// A list whose lines have columns, with a heading over each: in the text of a line a tab parts them.
+// A list whose lines have columns, with a heading over each: in the text of a line a tab parts them. The user
+// selects several of them where the list lets them be moved.
 class ColumnList : public ListBox {
   public:
     struct Column {
@@ -65,6 +73,8 @@ class ColumnList : public ListBox {
     std::vector<std::string> Cells(int index) const;
 
     std::function<void()> OnCopy;
+    // The user dragged the selected lines in front of line `before`, or behind the last one.
+    std::function<void(int before)> OnMove;
 
   private:
     std::vector<Column> columns_;

@@ -95,6 +95,16 @@ bool UserDoor::PickLine(ListBox& list, int index) {
     return Act(list, [&] { list.SetListIndex(index); });
 }
 
+bool UserDoor::PickLines(ColumnList& list, const std::vector<int>& lines, int current) {
+    return !lines.empty() && Act(list, [&] { list.SetSelected(lines, current); });
+}
+
+bool UserDoor::MoveLines(ColumnList& list, int before) {
+    return Act(list, [&] {
+        if (list.OnMove) list.OnMove(before);
+    });
+}
+
 bool UserDoor::OpenLine(ListBox& list, int index) {
     bool opened = false;
     host_.RunEvent([&] { opened = PickLine(list, index) && Key(list.Owner(), ShortcutKey::Enter); });

@@ -31,6 +31,10 @@ class UserDoor {
     bool Pick(OptionButton& option);
     bool Toggle(CheckBox& check);
     bool PickLine(ListBox& list, int index);
+    // Selects several lines in rising order, of which `current` was picked last. There is always one.
+    bool PickLines(ColumnList& list, const std::vector<int>& lines, int current);
+    // Drags the selected lines in front of a line; the number of lines is behind the last.
+    bool MoveLines(ColumnList& list, int before);
     bool OpenLine(ListBox& list, int index);  // double click: picks it, then what Enter does there
     bool PickDrive(DriveList& list, std::string_view drive);
     bool PickFolder(FolderList& list, int index);  // one click: choose it

@@ -1,11 +1,14 @@
 // Undo and redo of the rows, seen from outside: whatever was done comes back byte for byte, also what stands
 // behind the rows in use.
 
+#include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
 #include <random>
 
 #include "procedure/procedure_rows.h"
+#include "procedure/row_block.h"
+#include "support/failure_of.h"
 
 namespace tarvex {
 namespace {
@@ -29,7 +32,7 @@ class Follower : public RowsObserver {
         if (change.kind == Kind::Appended || change.kind == Kind::Inserted) lines.insert(at, told());
         if (change.kind == Kind::Erased) lines.erase(at);
         if (change.kind == Kind::Exchanged) std::swap(*at, lines[static_cast<std::size_t>(change.other)]);
-        if (change.kind == Kind::Assigned) lines = rows_.Lines();
+        if (change.kind == Kind::Assigned || change.kind == Kind::Arranged) lines = rows_.Lines();
     }
 
     std::vector<std::string> lines;
@@ -50,12 +53,21 @@ class RowsHistoryTest : public ::testing::Test {
                 .LongMinutes = number,
                 .RestrictionType = "3"};
     }
+    // Some of the rows.
+    std::vector<int> Block() {
+        std::vector<int> block;
+        for (int row = 0; row < rows.Count(); ++row) {
+            if (Below(3) == 0) block.push_back(row);
+        }
+        return block;
+    }
     Shown Now() const { return {rows.Table(), rows.Count(), rows.Lines()}; }
 
     // One step of any kind.
     void Step() {
         const RowsStep step(rows, "Step " + std::to_string(++made));
-        const int kind = rows.Count() == 0 ? 0 : Below(6);
+        const int kind = rows.Count() == 0 ? 0 : Below(7);
+        if (kind == 6) return rows.Arrange(MovedBefore(Block(), Below(rows.Count() + 1), rows.Count()), 0);
         if (kind == 1) return rows.Replace(Below(rows.Count()), Row());
         if (kind == 2) return rows.Exchange(Below(rows.Count()), Below(rows.Count()));
         if (kind >= 3 && (kind == 3 || rows.Free() == 0)) return rows.Erase(Below(rows.Count()));
@@ -110,6 +122,10 @@ TEST_F(RowsHistoryTest, TellsTheRowThatAStepCameTo) {
             {[&] { rows.Append(Row(), "A"), rows.Append(Row(), "B"); }, {std::nullopt, 4}},
             {[&] { rows.Replace(1, Row()); }, {1, 1}},
             {[&] { rows.Exchange(2, 1); }, {2, 1}},
+            {[&] {
+                 rows.Arrange(MovedBefore({1, 3}, 0, 5), 3);
+             },
+             {3, 1}},
             {[&] { rows.Erase(1); }, {1, std::nullopt}},
         };
     for (const auto& [make, came] : steps) {
@@ -121,6 +137,31 @@ TEST_F(RowsHistoryTest, TellsTheRowThatAStepCameTo) {
         EXPECT_EQ(rows.History().NextStep(), "name");
         EXPECT_EQ(rows.Redo(), came.second);
         EXPECT_EQ(rows.Redo(), std::nullopt);
+    }
+}
+
+TEST_F(RowsHistoryTest, DropsABlockAsItsRowsMoveOneByOne) {
+    for (int round = 0; round < 200; ++round) {
+        std::vector<WaypointRecord> distinct(static_cast<std::size_t>(1 + Below(9)));
+        for (WaypointRecord& row : distinct) row = Row();
+        rows.Assign(distinct);
+        ProcedureRows single = rows;
+        const auto go = [&single](int row, int to) {
+            for (const int by = row < to ? 1 : -1; row != to; row += by) single.Exchange(row, row + by);
+        };
+        const std::vector<int> block = Block();
+        const int before = Below(rows.Count() + 1);
+        const auto behind = std::ranges::lower_bound(block, before);
+        int gap = before;
+        for (auto row = behind; row != block.begin();) go(*--row, --gap);
+        gap = before;
+        for (auto row = behind; row != block.end(); ++row) go(*row, gap++);
+        rows.Arrange(MovedBefore(block, before, rows.Count()), 0);
+        ASSERT_TRUE(rows.Table() == single.Table()) << "round " << round;
+    }
+    for (const std::vector<int>& order : {std::vector{0}, {0, 0}, {0, 2}, {-1, 0}}) {
+        rows.Assign(std::vector<WaypointRecord>(2));
+        EXPECT_EQ(testing::NumberOf([&] { rows.Arrange(order, 0); }), BadArgument);
     }
 }
 

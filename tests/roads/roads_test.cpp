@@ -297,8 +297,8 @@ TEST_P(Roads, LeadWhereTheyAreToldTo) {
 
 INSTANTIATE_TEST_SUITE_P(, Roads,
                          ::testing::Values("screens", "fields", "rows", "select", "save", "open", "search",
-                                           "arc", "undo", "derived", "start", "folder", "tools", "faults",
-                                           "reading"),
+                                           "arc", "undo", "blocks", "derived", "start", "folder", "tools",
+                                           "faults", "reading"),
                          [](const auto& road) { return std::string(road.param); });
 
 }  // namespace

@@ -14,6 +14,8 @@ constexpr std::string_view Plans[] = {
     R"({ModifyDP/ModifySTAR/ModifyIAP} | FileList#?)",
     R"(AptNameText={kxyz/KABC} | BasicNameText={one/TWO} | TransitionText={/thr} | SaveCommand)",
     R"(WaypointList#? | Alt1Text={/0/5000/250/FL35/-5} | {ModifyWaypointCommand/DeleteWaypointCommand/MoveUp/MoveDown})",
+    R"(PictureTabs#2 | LegsList#? | LegsList#? | key {CtrlUp/CtrlDown} | LegsList#? | LegsList#? | {key Delete/UndoCommand})",
+    R"(PictureTabs#2 | LegsList#? | LegsList#? | key {CtrlUp/CtrlDown/Delete} | LegsList#? | LegsList#?)",
     R"(UndoCommand | {UndoCommand/RedoCommand} | {UndoCommand/RedoCommand/MoveUp})",
     R"(WaypointList#? | {SLatOption/WLongOption/AtOption/AtBelowOption} | ModifyWaypointCommand)",
     R"(ClearDataCommand | {FixNameText/NAVIDText}={a/alpha/fix 1/\xE9t\xE9/B-1/KX} | FreqText=113.60 | DDMLatText={<90} | DMMLatText={<60} | DDMLongText={<180} | DMMLongText=59.999999 | Alt1Text={/5000} | AddWaypointCommand)",
@@ -97,6 +99,7 @@ std::string RandomUser::ChooseOn(const Control& control) {
     if (const auto* box = dynamic_cast<const TextBox*>(&control)) {
         return name + "=" + Road::Written(ChooseText(box->Text()));
     }
+    if (const auto* list = dynamic_cast<const ColumnList*>(&control)) return name + ChooseLines(*list);
     if (const auto* list = dynamic_cast<const ListBox*>(&control)) return lineOf(list->Lines().size());
     if (const auto* tabs = dynamic_cast<const Tabs*>(&control)) return lineOf(tabs->Pages().size());
     if (const auto* picture = dynamic_cast<const Picture*>(&control)) return name + ChooseIn(*picture);
@@ -112,6 +115,14 @@ std::string RandomUser::ChooseOn(const Control& control) {
         return name + (chance_.Percent(50) ? ">" : "#") + folders->List(row);
     }
     return name;
+}
+
+std::string RandomUser::ChooseLines(const ListBox& list) {
+    const auto any = [&] { return std::to_string(chance_.Below(list.Lines().size() + 1)); };
+    if (chance_.Percent(50)) return "#before " + any();
+    std::string lines = "#" + any();
+    while (chance_.Percent(60)) lines += "," + any();
+    return lines;
 }
 
 // Room that is soon drawn, or none; what stands in the picture, or any place of it.

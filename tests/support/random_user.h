@@ -40,6 +40,7 @@ class RandomUser {
   private:
     std::string Choose();
     std::string ChooseOn(const Control& control);
+    std::string ChooseLines(const ListBox& list);
     std::string ChooseIn(const Picture& picture);
     std::string ChooseText(const std::string& before);
     void MakePlan();

@@ -1,6 +1,8 @@
 #include "support/road.h"
 
 #include <algorithm>
+#include <set>
+#include <sstream>
 
 #include "geometry/text_rules.h"
 
@@ -123,6 +125,9 @@ bool Road::ActOn(Control& control, char how, const std::string& text) {
     if (auto* option = dynamic_cast<OptionButton*>(&control)) return door.Pick(*option);
     if (auto* check = dynamic_cast<CheckBox*>(&control)) return door.Toggle(*check);
     if (auto* drives = dynamic_cast<DriveList*>(&control)) return door.PickDrive(*drives, text);
+    if (auto* columns = dynamic_cast<ColumnList*>(&control); columns != nullptr && how == '#') {
+        return ActOnLines(*columns, text);
+    }
     if (auto* list = dynamic_cast<ListBox*>(&control)) {
         const int line = static_cast<int>(LeadingNumber(text));
         if (line >= list->ListCount()) return false;
@@ -144,6 +149,20 @@ bool Road::ActOn(Control& control, char how, const std::string& text) {
         return how == '>' ? door.OpenFolder(*folders, row) : door.PickFolder(*folders, row);
     }
     return false;
+}
+
+bool Road::ActOnLines(ColumnList& list, const std::string& text) {
+    constexpr std::string_view before = "before ";
+    if (text.starts_with(before)) {
+        const int line = static_cast<int>(LeadingNumber(text.substr(before.size())));
+        return line <= list.ListCount() && program->door.MoveLines(list, line);
+    }
+    std::istringstream words(text);
+    std::set<int> lines;
+    int last = 0;
+    for (std::string word; std::getline(words, word, ',');) lines.insert(last = std::stoi(word));
+    if (*lines.rbegin() >= list.ListCount()) return false;
+    return program->door.PickLines(list, {lines.begin(), lines.end()}, last);
 }
 
 bool Road::ActOnPicture(Picture& picture, char how, const std::string& text) {

@@ -20,6 +20,7 @@ namespace tarvex::testing {
 //     Name=text         empties the box and types the text, one character at a time
 //     Name#line         picks a line: by number from 0, a file by name, a folder or drive by path
 //     Name>line         the same with a double click
+//     Name#line,line    picks several lines, the last one at last; "#before line" drags them in front of it
 //     Name#x,y          clicks a picture, or with > double-clicks it; "#menu N" picks an entry of its menu,
 //                       "=w,h" gives it room; of tabs "#N" shows a page
 //     to Name           moves the focus
@@ -51,7 +52,7 @@ class Road : FormObserver {
     bool DoOne(std::string_view act);
     // All controls of a screen in tab order, with their kinds, captions, limits and states.
     std::string Show(std::string_view screen);
-    // A line for each of the controls, with names between blanks.
+    // A line for each of the controls, with names between blanks; "Name#" tells of a list its selection alone.
     std::string See(std::string_view names);
     // A line for each row in use: its line in the list, "*" for an edited position, its fields.
     std::vector<std::string> Rows() const;
@@ -88,6 +89,7 @@ class Road : FormObserver {
 
     bool Act(std::string_view act);
     bool ActOn(Control& control, char how, const std::string& text);
+    bool ActOnLines(ColumnList& list, const std::string& text);
     bool ActOnPicture(Picture& picture, char how, const std::string& text);
     bool Type(TextBox& box, std::string_view text);
     bool PressKey(std::string_view key);

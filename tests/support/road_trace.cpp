@@ -236,6 +236,12 @@ Road::State Road::StateOf(const Control& control) {
     } else if (const auto* list = dynamic_cast<const ListBox*>(&control)) {
         if (list->Name() != "WaypointList") state.text = Joined(list->Lines());
         parts["line"] = "#" + std::to_string(list->ListIndex());
+        const std::vector<int> block = list->Selected();
+        if (block.size() > 1) {
+            std::vector<std::string> lines;
+            for (const int line : block) lines.push_back(std::to_string(line));
+            parts["line"] += " of " + Joined(lines);
+        }
     } else if (const auto* drives = dynamic_cast<const DriveList*>(&control)) {
         state.text = drives->Drive() + " of " + Joined(drives->Drives());
     } else if (const auto* folders = dynamic_cast<const FolderList*>(&control)) {
@@ -340,8 +346,12 @@ std::string Road::See(std::string_view names) {
     trace_.clear();
     std::istringstream words{std::string(names)};
     for (std::string name; words >> name;) {
+        const bool lineAlone = name.ends_with('#');
+        if (lineAlone) name.pop_back();
         const Control* control = Find(name);
-        Note(control == nullptr ? name + " is not there" : Told(*control));
+        Note(control == nullptr ? name + " is not there"
+             : lineAlone        ? name + " " + StateOf(*control).parts.at("line")
+                                : Told(*control));
     }
     return trace_;
 }
