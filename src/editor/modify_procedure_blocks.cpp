@@ -6,17 +6,6 @@
 
 namespace tarvex {
 
-namespace {
-
-std::vector<int> Behind(const std::vector<int>& order, std::vector<int> rows) {
-    const std::vector<int> places = PlacesIn(order);
-    for (int& row : rows) row = places[static_cast<std::size_t>(row)];
-    std::sort(rows.begin(), rows.end());
-    return rows;
-}
-
-}  // namespace
-
 std::string ModifyProcedure::BlockStepName(const std::string& act) const {
     const auto rows = Pictures.LegsList.Selected();
     if (rows.size() > 1) return act + " " + NumberText(static_cast<double>(rows.size())) + " waypoints";
@@ -42,12 +31,16 @@ void ModifyProcedure::MoveBlockBefore(int row) {
 
 void ModifyProcedure::ArrangeBlock(const std::vector<int>& order) {
     if (std::is_sorted(order.begin(), order.end())) return;
-    const std::vector<int> block = Pictures.LegsList.Selected();
-    const int current = Behind(order, {WaypointList.ListIndex()}).front();
+    std::vector<int> block = Pictures.LegsList.Selected();
+    const auto behind = [places = PlacesIn(order)](int row) { return places[static_cast<std::size_t>(row)]; };
+    const int current = behind(WaypointList.ListIndex());
+    const int anchor = behind(Pictures.LegsList.Anchor());
     const RowsStep step(state_.Rows, BlockStepName("Move"));
     state_.Rows.Arrange(order, block.front());
     WaypointList.SetListIndex(current);
-    Pictures.KeepBlock(Behind(order, block));
+    std::ranges::transform(block, block.begin(), behind);
+    std::ranges::sort(block);
+    Pictures.KeepBlock(std::move(block), anchor);
 }
 
 }  // namespace tarvex

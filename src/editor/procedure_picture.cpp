@@ -218,7 +218,7 @@ void ProcedurePicture::ShowLegs() {
 void ProcedurePicture::ShowSelected() {
     const std::vector<int> block = std::exchange(block_, {});
     if (!block.empty()) {
-        LegsList.SetSelected(block, SelectedRow());
+        LegsList.SetSelected(block, SelectedRow(), anchor_);
     } else if (LegsList.ListIndex() != SelectedRow()) {
         LegsList.SetListIndex(SelectedRow());
     }

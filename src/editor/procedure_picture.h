@@ -39,8 +39,8 @@ class ProcedurePicture {
     Label PictureLabel;  // what is pointed at or marked, else what there is to say of the whole
 
     void RowsChanged(const ProcedureRows::Change& change);
-    // The rows that were selected in LegsList moved to these: they stay selected.
-    void KeepBlock(std::vector<int> rows);
+    // What was selected in LegsList moved to these rows, with the one to extend it from, and stays selected.
+    void KeepBlock(std::vector<int> rows, int anchor);
     // Brings the pictures in line with everything that they show.
     void Update();
 
@@ -106,7 +106,8 @@ class ProcedurePicture {
     int rows_ = 0;              // counts the changes of the rows
     int routeOf_ = -1;          // which of them the route shows
     std::vector<int> newRows_;  // since the last update
-    std::vector<int> block_;    // to be selected in LegsList by the next update
+    std::vector<int> block_;    // to be selected in LegsList by the next update ...
+    int anchor_ = 0;            // ... and extended from there
     PlanDrafts drafts_;
     SearchTargets found_;
     Target marked_;

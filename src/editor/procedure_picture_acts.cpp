@@ -97,8 +97,9 @@ void ProcedurePicture::ClickRow(int row) {
     if (list.HasFocus() && row < list.ListCount()) list.SetListIndex(row);
 }
 
-void ProcedurePicture::KeepBlock(std::vector<int> rows) {
+void ProcedurePicture::KeepBlock(std::vector<int> rows, int anchor) {
     block_ = std::move(rows);
+    anchor_ = anchor;
     ReturnToLegs();
 }
 

@@ -1,7 +1,9 @@
 #include "toolkit/list_box.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <functional>
+#include <numeric>
 #include <utility>
 
 #include "toolkit/failure.h"
@@ -18,19 +20,32 @@ std::vector<int> ListBox::Selected() const {
     return listIndex_ == NoSelection ? std::vector<int>() : std::vector{listIndex_};
 }
 
-void ListBox::SetSelected(std::vector<int> lines, int index) {
+void ListBox::SetSelected(std::vector<int> lines, int index, int anchor) {
     const bool rising = std::adjacent_find(lines.begin(), lines.end(), std::greater_equal()) == lines.end();
     const bool there = lines.empty() || (lines.front() >= 0 && lines.back() < ListCount());
     if (!rising || !there || std::binary_search(lines.begin(), lines.end(), index) == lines.empty()) {
         throw Failure(BadArgument, Name() + " has no such lines");
     }
     if (lines.size() < 2) lines.clear();
+    anchor_ = anchor;
     if (listIndex_ == index && block_ == lines) return;
     block_ = std::move(lines);
     const bool clicked = std::exchange(listIndex_, index) != index;
     if (index != NoSelection) newestLine_ = index;
     Changed();
     if (clicked) Run(OnClick);
+}
+
+int ListBox::Anchor() const {
+    const auto lines = Selected();
+    return std::binary_search(lines.begin(), lines.end(), anchor_) ? anchor_ : listIndex_;
+}
+
+void ListBox::ExtendTo(int index) {
+    const int anchor = listIndex_ == NoSelection ? index : Anchor();
+    std::vector<int> lines(static_cast<std::size_t>(std::abs(index - anchor)) + 1);
+    std::iota(lines.begin(), lines.end(), std::min(index, anchor));
+    SetSelected(std::move(lines), index, anchor);
 }
 
 std::string ListBox::Text() const {

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "toolkit/control.h"
@@ -26,7 +27,13 @@ class ListBox : public Control {
     // The selected lines in rising order, with the current one.
     std::vector<int> Selected() const;
     // Selects several lines in rising order; `index`, one of them, becomes the current one as above.
-    void SetSelected(std::vector<int> lines, int index);
+    void SetSelected(std::vector<int> lines, int index) { SetSelected(std::move(lines), index, index); }
+    void SetSelected(std::vector<int> lines, int index, int anchor);
+    // The selected line at which a range begins that is selected next: the one that was picked last without
+    // one. NoSelection without a selection.
+    int Anchor() const;
+    // Selects the range from there to `index`, which becomes the current line.
+    void ExtendTo(int index);
     // The text of the current line; empty without a selection.
     std::string Text() const;
 
@@ -52,7 +59,8 @@ class ListBox : public Control {
   private:
     std::vector<std::string> lines_;
     int listIndex_ = NoSelection;
-    std::vector<int> block_;  // the selected lines where there are several
+    std::vector<int> block_;    // the selected lines where there are several
+    int anchor_ = NoSelection;  // may have gone
     int newestLine_ = NoSelection;
 };
 

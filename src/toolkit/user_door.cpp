@@ -99,6 +99,10 @@ bool UserDoor::PickLines(ColumnList& list, const std::vector<int>& lines, int cu
     return !lines.empty() && Act(list, [&] { list.SetSelected(lines, current); });
 }
 
+bool UserDoor::ExtendLines(ColumnList& list, int to) {
+    return Act(list, [&] { list.ExtendTo(to); });
+}
+
 bool UserDoor::MoveLines(ColumnList& list, int before) {
     return Act(list, [&] {
         if (list.OnMove) list.OnMove(before);

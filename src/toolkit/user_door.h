@@ -33,6 +33,7 @@ class UserDoor {
     bool PickLine(ListBox& list, int index);
     // Selects several lines in rising order, of which `current` was picked last. There is always one.
     bool PickLines(ColumnList& list, const std::vector<int>& lines, int current);
+    bool ExtendLines(ColumnList& list, int to);  // Shift: to the line, from the one picked before
     // Drags the selected lines in front of a line; the number of lines is behind the last.
     bool MoveLines(ColumnList& list, int before);
     bool OpenLine(ListBox& list, int index);  // double click: picks it, then what Enter does there

@@ -119,7 +119,7 @@ std::string RandomUser::ChooseOn(const Control& control) {
 
 std::string RandomUser::ChooseLines(const ListBox& list) {
     const auto any = [&] { return std::to_string(chance_.Below(list.Lines().size() + 1)); };
-    if (chance_.Percent(50)) return "#before " + any();
+    if (chance_.Percent(60)) return (chance_.Percent(80) ? "#before " : "#to ") + any();
     std::string lines = "#" + any();
     while (chance_.Percent(60)) lines += "," + any();
     return lines;

@@ -152,11 +152,9 @@ bool Road::ActOn(Control& control, char how, const std::string& text) {
 }
 
 bool Road::ActOnLines(ColumnList& list, const std::string& text) {
-    constexpr std::string_view before = "before ";
-    if (text.starts_with(before)) {
-        const int line = static_cast<int>(LeadingNumber(text.substr(before.size())));
-        return line <= list.ListCount() && program->door.MoveLines(list, line);
-    }
+    const int line = static_cast<int>(LeadingNumber(text.substr(text.find(' ') + 1)));
+    if (text.starts_with("to ")) return line < list.ListCount() && program->door.ExtendLines(list, line);
+    if (text.starts_with("before ")) return line <= list.ListCount() && program->door.MoveLines(list, line);
     std::istringstream words(text);
     std::set<int> lines;
     int last = 0;

@@ -20,7 +20,8 @@ namespace tarvex::testing {
 //     Name=text         empties the box and types the text, one character at a time
 //     Name#line         picks a line: by number from 0, a file by name, a folder or drive by path
 //     Name>line         the same with a double click
-//     Name#line,line    picks several lines, the last one at last; "#before line" drags them in front of it
+//     Name#line,line    picks several lines, the last one at last; "#to line" extends them to it, "#before
+//                       line" drags them in front of it
 //     Name#x,y          clicks a picture, or with > double-clicks it; "#menu N" picks an entry of its menu,
 //                       "=w,h" gives it room; of tabs "#N" shows a page
 //     to Name           moves the focus
