@@ -1,7 +1,7 @@
 # Refuses includes that go past the layers and folders: cmake -DFILES=a.cpp;b.h [-DSTAMP=file] -P fence.cmake
 # A file names what it includes of the program as "folder/name.h", of its own folder or of one that stands in
 # front of it here.
-set(FOLDERS toolkit geometry navigation procedure chart startup editor program desktop)
+set(FOLDERS toolkit geometry navigation procedure chart findings startup editor program desktop)
 
 foreach(file IN LISTS FILES)
   get_filename_component(folder ${file} DIRECTORY)

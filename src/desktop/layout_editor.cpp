@@ -176,6 +176,7 @@ wxSizer* EditorLayout::Pictures() {
     put_.Put(pictures.PlanPicture);
     put_.Put(pictures.ProfilePicture);
     put_.Put(pictures.LegsList, {20, 4}, "Legs");
+    put_.Put(pictures.Findings.FindingsList, {20, 4}, "Findings");
     tabs->SetMinSize({40 * gap_, 22 * gap_});
 
     auto* bar = new wxBoxSizer(wxVERTICAL);

@@ -193,6 +193,11 @@ TabsBinder::TabsBinder(NativeForm& window, Tabs& tabs, wxBookCtrlBase& widget, c
 }
 
 void TabsBinder::ToWidget() {
+    for (std::size_t page = 0; const auto& [caption, content] : tabs_.Pages()) {
+        const wxString shown = Shown(caption);
+        if (widget_.GetPageText(page) != shown) widget_.SetPageText(page, shown);
+        ++page;
+    }
     if (widget_.GetSelection() != tabs_.Index()) {
         widget_.ChangeSelection(static_cast<std::size_t>(tabs_.Index()));
     }

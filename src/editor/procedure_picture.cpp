@@ -15,6 +15,8 @@ namespace {
 
 constexpr int Chart = 0;
 constexpr int Profile = 1;
+constexpr int FindingsPage = 3;
+constexpr std::string_view FindingsCaption = "Findings";
 constexpr double MilesRoundAirport = 40;
 constexpr std::string_view Hint = "Type the ICAO code of the airport to see what lies around it.";
 
@@ -53,8 +55,13 @@ ProcedurePicture::ProcedurePicture(ModifyProcedure& editor, const Workplace& wor
                 {"Speed", true},
                 {"Position"}},
                64),
+      Findings(editor, workplace.state),
       PictureTabs(editor, "PictureTabs",
-                  {{"Chart", &PlanPicture}, {"Profile", &ProfilePicture}, {"Legs", &LegsList}}, 61),
+                  {{"Chart", &PlanPicture},
+                   {"Profile", &ProfilePicture},
+                   {"Legs", &LegsList},
+                   {std::string(FindingsCaption), &Findings.FindingsList}},
+                  61),
       ZoomInCommand(editor, "ZoomInCommand", "", 65),
       ZoomOutCommand(editor, "ZoomOutCommand", "", 66),
       FitCommand(editor, "FitCommand", "", 67),
@@ -92,6 +99,7 @@ void ProcedurePicture::Update() {
         ShowLegs();
     }
     ShowSelected();
+    ShowFindings();
     if (PictureTabs.Index() == Chart) ShowPlan();
     if (PictureTabs.Index() == Profile) ShowProfile();
     for (Button* button : {&ZoomInCommand, &ZoomOutCommand, &FitCommand}) {
@@ -214,6 +222,12 @@ void ProcedurePicture::ShowLegs() {
     ProfilePicture.SetSentence("Profile: " + sentence);
 }
 
+void ProcedurePicture::ShowFindings() {
+    Findings.Update(route_, rows_);
+    const std::string count = Findings.Count() == 0 ? "" : " (" + std::to_string(Findings.Count()) + ")";
+    PictureTabs.SetCaption(FindingsPage, std::string(FindingsCaption) + count);
+}
+
 // What is selected there lasts as long as its current line is that of the list of waypoints.
 void ProcedurePicture::ShowSelected() {
     const std::vector<int> block = std::exchange(block_, {});
@@ -243,6 +257,7 @@ std::string ProcedurePicture::Words() const {
     if (const auto rows = LegsList.Selected().size(); rows > 1) {
         return NumberText(static_cast<double>(rows)) + " waypoints are selected.";
     }
+    if (PictureTabs.Index() == FindingsPage && Findings.Count() == 0) return "Nothing found.";
     if (route_.points.empty()) return std::string(view_ ? "" : Hint);
     return RouteSentence(route_);
 }

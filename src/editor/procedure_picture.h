@@ -8,6 +8,7 @@
 #include "chart/profile_scene.h"
 #include "editor/editor_tools.h"
 #include "editor/picture_drafts.h"
+#include "editor/procedure_findings.h"
 #include "procedure/procedure_rows.h"
 #include "toolkit/list_box.h"
 #include "toolkit/picture.h"
@@ -20,10 +21,10 @@ class ModifyProcedure;
 struct SharedState;
 struct Workplace;
 
-// The pictures of the procedure in the editor: chart, profile and legs, each on its tab. They follow the
-// rows, the boxes and the tools. What the user does in them presses what is there anyway: a click on a
-// waypoint is a click on its line in the list; an entry of the tables is only marked by a click and goes into
-// the boxes as the search would put it there.
+// The pictures of the procedure in the editor: chart, profile, legs and findings, each on its tab. They
+// follow the rows, the boxes and the tools. What the user does in them presses what is there anyway: a click
+// on a waypoint is a click on its line in the list; an entry of the tables is only marked by a click and goes
+// into the boxes as the search would put it there.
 class ProcedurePicture {
   public:
     ProcedurePicture(ModifyProcedure& editor, const Workplace& workplace, const EditorTools& tools);
@@ -31,6 +32,7 @@ class ProcedurePicture {
     Picture PlanPicture;
     Picture ProfilePicture;
     ColumnList LegsList;
+    ProcedureFindings Findings;
     Tabs PictureTabs;
     Button ZoomInCommand;
     Button ZoomOutCommand;
@@ -71,7 +73,7 @@ class ProcedurePicture {
 
     void Choose(const Target& target);
     void ClickRow(int row);
-    void ReturnToLegs();
+    void ReturnTo(ColumnList& list);
     void Take(bool add);
     std::vector<MenuEntry> MenuFor(const Target& target);
     void Zoom(double steps);
@@ -92,6 +94,7 @@ class ProcedurePicture {
     void ShowPlan();
     void ShowProfile();
     void ShowLegs();
+    void ShowFindings();
     void ShowSelected();
     void ShowWords();
     std::string WordsOf(const Target& target) const;

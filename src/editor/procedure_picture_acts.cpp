@@ -63,7 +63,11 @@ void ProcedurePicture::ConnectRest() {
         const int row = LegsList.ListIndex();
         if (row == ListBox::NoSelection || row == editor_.WaypointList.ListIndex()) return;
         ClickRow(row);
-        ReturnToLegs();
+        ReturnTo(LegsList);
+    };
+    Findings.OnRow = [this](int row) {
+        if (row != editor_.WaypointList.ListIndex()) ClickRow(row);
+        ReturnTo(Findings.FindingsList);
     };
     LegsList.OnMove = [this](int before) { editor_.MoveBlockBefore(before); };
     LegsList.OnCopy = [this] {
@@ -100,12 +104,12 @@ void ProcedurePicture::ClickRow(int row) {
 void ProcedurePicture::KeepBlock(std::vector<int> rows, int anchor) {
     block_ = std::move(rows);
     anchor_ = anchor;
-    ReturnToLegs();
+    ReturnTo(LegsList);
 }
 
 // So that the keys go on from line to line; a box that complains of what the row brought it has the focus.
-void ProcedurePicture::ReturnToLegs() {
-    if (editor_.WaypointList.HasFocus()) LegsList.SetFocus();
+void ProcedurePicture::ReturnTo(ColumnList& list) {
+    if (editor_.WaypointList.HasFocus()) list.SetFocus();
 }
 
 void ProcedurePicture::Take(bool add) {

@@ -6,6 +6,7 @@
 
 #include "chart/position_grid.h"
 #include "geometry/tool_variables.h"
+#include "navigation/name_directory.h"
 #include "navigation/navigation_tables.h"
 #include "navigation/search_variables.h"
 #include "procedure/procedure_rows.h"
@@ -33,6 +34,8 @@ struct SharedState : Settings, ProcedureVariables, SearchVariables, ArcVariables
     int NavigationLoads = 0;  // how often the tables were filled
     // Where their entries are; made when a picture first needs it, gone when they are filled anew.
     std::unique_ptr<const PositionGrid> Grid;
+    // Where the entries of the names that came up are; likewise.
+    std::unique_ptr<NameDirectory> Names;
 };
 
 }  // namespace tarvex

@@ -7,6 +7,7 @@ namespace tarvex {
 void Workplace::FillNavigationTables() const {
     findWaypointForm.Unload();
     state.Grid.reset();
+    state.Names.reset();
     ++state.NavigationLoads;
     const auto leftOut = LoadNavigationData(platform.files, state.SimulatorPath, state.Navigation);
     if (!leftOut.empty()) dialogue.Ask(EntriesLeftOut(leftOut));

@@ -11,6 +11,13 @@ Tabs::Tabs(Form& form, std::string_view name, std::vector<Page> pages, int tabIn
     ShowContent();
 }
 
+void Tabs::SetCaption(int page, std::string_view caption) {
+    std::string& shown = pages_.at(static_cast<std::size_t>(page)).caption;
+    if (shown == caption) return;
+    shown = caption;
+    Changed();
+}
+
 void Tabs::SetIndex(int index) {
     if (index < 0 || index >= static_cast<int>(pages_.size())) {
         throw Failure(BadArgument, Name() + " has no such page");

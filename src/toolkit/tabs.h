@@ -21,6 +21,8 @@ class Tabs : public Control {
     Tabs(Form& form, std::string_view name, std::vector<Page> pages, int tabIndex);
 
     const std::vector<Page>& Pages() const { return pages_; }
+    // The caption of an existing page.
+    void SetCaption(int page, std::string_view caption);
     int Index() const { return index_; }
     // Shows that page, and hides the content of the others. Runs OnClick when it was not shown before.
     void SetIndex(int index);

@@ -39,6 +39,7 @@ class SampleTest : public ::testing::Test {
     // Opens the stored procedure from the menu, saves it as it is and gives what is told.
     std::string OpenedAndSaved(const std::string& modify, const std::string& name) {
         road.Do(modify + " | FileList#" + name);
+        EXPECT_EQ(road.See("FindingsList"), "    FindingsList hidden\n") << name;
         return road.Do("SaveCommand");
     }
 

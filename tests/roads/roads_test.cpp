@@ -137,16 +137,32 @@ class Walk {
         return outcome;
     }
 
-    std::string Opened(const std::string& path, const std::string& line) {
+    // Opens a procedure with the text of the line.
+    std::string Open(const std::string& path, const std::string& line) {
         services.files.Put(PathOf(path), Road::Unwritten(line.substr(line.find(path) + path.size() + 1)));
         if (!road.program || !road.Runs()) Start();
         const std::string kind = path.substr(0, path.find('\\'));
         const std::string modify = kind == "Sids" ? "DP" : kind == "Stars" ? "STAR" : "IAP";
-        std::string told = road.Do("Modify" + modify + " | FileList#" + path.substr(kind.size() + 1));
+        return road.Do("Modify" + modify + " | FileList#" + path.substr(kind.size() + 1));
+    }
+
+    std::string Opened(const std::string& path, const std::string& line) {
+        std::string told = Open(path, line);
         if (road.IsThere("ModifyProcedure")) {
             told.erase(0, told.find('\n') + 1);  // that it is there
             road.Do("OopsCommand");
         }
+        return told.empty() ? "    nothing\n" : told;
+    }
+
+    // What is found in it, a line each.
+    std::string Checked(const std::string& path, const std::string& line) {
+        Open(path, line);
+        std::string told;
+        for (const std::string& found : dynamic_cast<ListBox&>(*road.Find("FindingsList")).Lines()) {
+            told += "    " + Road::Written(found) + "\n";
+        }
+        road.Do("OopsCommand");
         return told.empty() ? "    nothing\n" : told;
     }
 
@@ -214,6 +230,8 @@ class Walk {
             return words[1] == "in" ? Start(words[2]) : Start();
         } else if (what == "open") {
             return Opened(words[1], line);
+        } else if (what == "check") {
+            return Checked(words[1], line);
         } else if (what == "see") {
             return road.See(rest);
         } else if (what == "show") {
@@ -297,8 +315,8 @@ TEST_P(Roads, LeadWhereTheyAreToldTo) {
 
 INSTANTIATE_TEST_SUITE_P(, Roads,
                          ::testing::Values("screens", "fields", "rows", "select", "save", "open", "search",
-                                           "arc", "undo", "blocks", "derived", "start", "folder", "tools",
-                                           "faults", "reading"),
+                                           "arc", "undo", "blocks", "findings", "derived", "start", "folder",
+                                           "tools", "faults", "reading"),
                          [](const auto& road) { return std::string(road.param); });
 
 }  // namespace

@@ -53,11 +53,7 @@ std::string KindOf(const Control& control) {
     }
     if (dynamic_cast<const ListBox*>(&control)) return "list";
     if (dynamic_cast<const Picture*>(&control)) return "picture";
-    if (const auto* tabs = dynamic_cast<const Tabs*>(&control)) {
-        std::string kind = "tabs";
-        for (const auto& page : tabs->Pages()) kind += " " + page.caption;
-        return kind;
-    }
+    if (dynamic_cast<const Tabs*>(&control)) return "tabs";
     if (dynamic_cast<const FileList*>(&control)) return "files";
     if (dynamic_cast<const FolderList*>(&control)) return "folders";
     return "drives";
@@ -242,6 +238,8 @@ Road::State Road::StateOf(const Control& control) {
             for (const int line : block) lines.push_back(std::to_string(line));
             parts["line"] += " of " + Joined(lines);
         }
+    } else if (const auto* tabs = dynamic_cast<const Tabs*>(&control)) {
+        for (const auto& page : tabs->Pages()) state.text += (state.text.empty() ? "" : ", ") + page.caption;
     } else if (const auto* drives = dynamic_cast<const DriveList*>(&control)) {
         state.text = drives->Drive() + " of " + Joined(drives->Drives());
     } else if (const auto* folders = dynamic_cast<const FolderList*>(&control)) {
@@ -277,10 +275,10 @@ Road::States Road::StatesNow() const {
 // The pictures of the editor show once more what its rows and boxes hold, and most acts on rows change what
 // can be undone; a road that is about these sees them by name.
 bool IsSeenByName(std::string_view name) {
-    constexpr std::string_view names[] = {"FitCommand",         "LegsList",      "PictureLabel",
-                                          "PictureTabs",        "PlanPicture",   "ProfilePicture",
-                                          "RedoCommand",        "UndoCommand",   "ZoomInCommand",
-                                          "SavePictureCommand", "ZoomOutCommand"};
+    constexpr std::string_view names[] = {"FindingsList",   "FitCommand",         "LegsList",
+                                          "PictureLabel",   "PictureTabs",        "PlanPicture",
+                                          "ProfilePicture", "RedoCommand",        "UndoCommand",
+                                          "ZoomInCommand",  "SavePictureCommand", "ZoomOutCommand"};
     return std::find(std::begin(names), std::end(names), name) != std::end(names);
 }
 
