@@ -108,6 +108,8 @@ wxSizer* EditorLayout::WaypointBoxes() {
     column->Add(grid);
     column->AddSpacer(gap_);
     column->Add(Restriction(), wxSizerFlags().Expand());
+    column->AddSpacer(gap_);
+    column->Add(put_.PutShort(editor_.PendingLabel), wxSizerFlags().Expand());
     return column;
 }
 

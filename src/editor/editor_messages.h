@@ -22,6 +22,11 @@ inline Message NotOpened(const std::string& fileName, const std::string& reason)
             .title = "Procedure not opened."};
 }
 
+// What the boxes hold beside the rows.
+inline constexpr std::string_view NotInTheProcedure = "Not in the procedure yet: press Add.";
+inline constexpr std::string_view ChangedNotWritten = "Changed, not written yet: press Modify. ";
+inline constexpr std::string_view AddIsOff = "Add is off while a waypoint is selected.";
+
 // Saving.
 inline const Message FilenameMissing{
     .prompt = "The filename is missing.",

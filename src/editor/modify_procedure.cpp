@@ -156,6 +156,7 @@ void ModifyProcedure::RowsChanged(const ProcedureRows::Change& change) {
 void ModifyProcedure::EventEnded() {
     const Control* focused = Host().GetFocus().Current();
     ShowSteps();
+    ShowPending();
     Pictures.Update();
     // A button that had the focus may be of no use any longer.
     if (focused != nullptr && Host().GetFocus().Current() == nullptr) WaypointList.SetFocus();

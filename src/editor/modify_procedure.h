@@ -89,6 +89,8 @@ class ModifyProcedure : public Form, private RowsObserver {
     Label Label8{*this, "Label8", "Find Airport", 57};
     Label RowsLabel{*this, "RowsLabel", "", 60};  // rows in use, of all there are; red when few are left
 
+    Label PendingLabel{*this, "PendingLabel", "", 73};  // what of the boxes a save would drop
+
     Button UndoCommand{*this, "UndoCommand", "", 70};
     Button RedoCommand{*this, "RedoCommand", "", 71};
 
@@ -209,6 +211,15 @@ class ModifyProcedure : public Form, private RowsObserver {
     void KeepHemispheres();
     void SaveFailed(const Failure& failure);
 
+    // What stands in the boxes of a waypoint.
+    struct Held {
+        std::vector<std::string> texts;
+        std::vector<bool> options;
+        friend bool operator==(const Held&, const Held&) = default;
+    };
+    Held HeldByBoxes() const;
+    void ShowPending();
+
     void ShowRowsInUse();
     void ShowSteps();
     void Retrace(std::optional<int> (ProcedureRows::*step)());
@@ -232,6 +243,7 @@ class ModifyProcedure : public Form, private RowsObserver {
     SharedState& state_;
     Dialogue& dialogue_;
     EditorTools tools_;
+    Held shown_;  // as the selected row came into the boxes, or was written from them, last
 };
 
 }  // namespace tarvex

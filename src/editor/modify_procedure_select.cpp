@@ -102,6 +102,7 @@ void ModifyProcedure::WaypointList_Click() {
     }
     // Last, because the rule of every option but the band's empties the upper altitude.
     if (OptionButton* option = RestrictionOption(*this, row)) option->Select();
+    shown_ = HeldByBoxes();
 }
 
 }  // namespace tarvex

@@ -315,8 +315,8 @@ TEST_P(Roads, LeadWhereTheyAreToldTo) {
 
 INSTANTIATE_TEST_SUITE_P(, Roads,
                          ::testing::Values("screens", "fields", "rows", "select", "save", "open", "search",
-                                           "arc", "undo", "blocks", "findings", "derived", "start", "folder",
-                                           "tools", "faults", "reading"),
+                                           "arc", "undo", "blocks", "findings", "pending", "derived", "start",
+                                           "folder", "tools", "faults", "reading"),
                          [](const auto& road) { return std::string(road.param); });
 
 }  // namespace

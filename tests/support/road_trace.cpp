@@ -275,10 +275,10 @@ Road::States Road::StatesNow() const {
 // The pictures of the editor show once more what its rows and boxes hold, and most acts on rows change what
 // can be undone; a road that is about these sees them by name.
 bool IsSeenByName(std::string_view name) {
-    constexpr std::string_view names[] = {"FindingsList",   "FitCommand",         "LegsList",
-                                          "PictureLabel",   "PictureTabs",        "PlanPicture",
-                                          "ProfilePicture", "RedoCommand",        "UndoCommand",
-                                          "ZoomInCommand",  "SavePictureCommand", "ZoomOutCommand"};
+    constexpr std::string_view names[] = {
+        "FindingsList",  "FitCommand",         "LegsList",       "PendingLabel", "PictureLabel",
+        "PictureTabs",   "PlanPicture",        "ProfilePicture", "RedoCommand",  "UndoCommand",
+        "ZoomInCommand", "SavePictureCommand", "ZoomOutCommand"};
     return std::find(std::begin(names), std::end(names), name) != std::end(names);
 }
 
