@@ -29,6 +29,11 @@ class NoPictures : public PictureServices {
     void Copy(const std::string&) override {}
 };
 
+class NoBrowser : public Browser {
+  public:
+    bool Open(const std::string&) override { return false; }
+};
+
 // A program at its menu, with many stored departures, each of an airport whose code begins with "K".
 struct Machine {
     NavigationFiles simulator{1, 1, 1};
@@ -38,7 +43,8 @@ struct Machine {
     std::unique_ptr<Clock> clock = MakeNativeClock();
     NoMessages messages;
     NoPictures pictures;
-    Program program{{*files, *registry, *clock, messages, pictures, SystemFolder()}};
+    NoBrowser browser;
+    Program program{{*files, *registry, *clock, messages, pictures, browser, SystemFolder()}};
 
     Machine() {
         std::ofstream(root / "Tarvex.INI") << simulator.SimulatorPath() << "\r\nN\r\nW\r\nW\r\n";

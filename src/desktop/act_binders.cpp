@@ -19,6 +19,12 @@ void ShowCaption(wxControl& widget, const CaptionedControl& control) {
     NameForAccess(widget, control.Name(), ShownLines(control.Caption()));
 }
 
+// What a button does, and the key that does it too.
+wxString TipOf(const Button& button) {
+    const std::string words = button.Tip().empty() ? PlainCaption(button.Caption()) : button.Tip();
+    return Shown(button.Key().empty() ? button.Tip() : words + " (" + button.Key() + ")");
+}
+
 }  // namespace
 
 LabelBinder::LabelBinder(NativeForm& window, Label& label, std::vector<wxStaticText*> widgets)
@@ -84,10 +90,11 @@ ButtonBinder::ButtonBinder(NativeForm& window, Button& button, wxAnyButton& widg
 
 void ButtonBinder::ToWidget() {
     if (!button_.Caption().empty()) ShowCaption(widget_, button_);
-    const wxString tip = Shown(button_.Tip());
+    if (!button_.Tip().empty()) NameForAccess(widget_, button_.Name(), Shown(button_.Tip()));
+    const wxString tip = TipOf(button_);
     if (!tip.empty() && widget_.GetToolTipText() != tip) {
         widget_.SetToolTip(tip);
-        NameForAccess(widget_, button_.Name(), tip);
+        DescribeForAccess(widget_, Shown(button_.Key()));
     }
     Binder::ToWidget();
 }

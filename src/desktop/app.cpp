@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "desktop/desktop.h"
+#include "desktop/native_browser.h"
 #include "desktop/native_message_box.h"
 #include "desktop/native_pictures.h"
 #include "toolkit/native_clock.h"
@@ -17,7 +18,8 @@ struct App::Run {
     std::unique_ptr<Clock> clock = MakeNativeClock();
     NativeMessageBox messages;
     NativePictures pictures;
-    Program program{Platform{*files, *registry, *clock, messages, pictures, NativeProgramFolder()}};
+    NativeBrowser browser;
+    Program program{Platform{*files, *registry, *clock, messages, pictures, browser, NativeProgramFolder()}};
     Desktop desktop{program};
 };
 

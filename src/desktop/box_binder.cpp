@@ -10,6 +10,10 @@ namespace tarvex {
 
 TextBoxBinder::TextBoxBinder(NativeForm& window, TextBox& box, wxTextCtrl& widget, const wxString& spoken)
     : Binder(window, box, widget, spoken), box_(box), widget_(widget) {
+    if (!box.Tip().empty()) {
+        widget.SetToolTip(Shown(box.Tip()));
+        DescribeForAccess(widget, Shown(box.Tip()));
+    }
     widget.Bind(wxEVT_TEXT, [this](wxCommandEvent&) { ToDoor(); });
     widget.Bind(wxEVT_LEFT_UP, [this](wxMouseEvent& event) {
         event.Skip();

@@ -1,7 +1,6 @@
 #include "desktop/native_form.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
 
 #include <wx/sizer.h>
@@ -21,29 +20,61 @@ struct KeyOfShortcut {
     ShortcutKey key;
 };
 
-constexpr std::array<KeyOfShortcut, 9> ShortcutKeys = {{
+constexpr KeyOfShortcut ShortcutKeys[] = {
+    {WXK_RETURN, wxMOD_NONE, ShortcutKey::Enter},
+    {WXK_NUMPAD_ENTER, wxMOD_NONE, ShortcutKey::Enter},
+    {WXK_RETURN, wxMOD_CONTROL, ShortcutKey::CtrlEnter},
+    {WXK_NUMPAD_ENTER, wxMOD_CONTROL, ShortcutKey::CtrlEnter},
     {WXK_DELETE, wxMOD_NONE, ShortcutKey::Delete},
     {WXK_UP, wxMOD_CONTROL, ShortcutKey::CtrlUp},
     {WXK_DOWN, wxMOD_CONTROL, ShortcutKey::CtrlDown},
+    {'L', wxMOD_CONTROL, ShortcutKey::CtrlL},
     {'S', wxMOD_CONTROL, ShortcutKey::CtrlS},
-    {'Z', wxMOD_CONTROL, ShortcutKey::CtrlZ},
     {'Y', wxMOD_CONTROL, ShortcutKey::CtrlY},
+    {'Z', wxMOD_CONTROL, ShortcutKey::CtrlZ},
     {'Z', wxMOD_CONTROL | wxMOD_SHIFT, ShortcutKey::CtrlShiftZ},
-    {WXK_RETURN, wxMOD_NONE, ShortcutKey::Enter},
-    {WXK_NUMPAD_ENTER, wxMOD_NONE, ShortcutKey::Enter},
-}};
+    {'1', wxMOD_CONTROL, ShortcutKey::Ctrl1},
+    {'2', wxMOD_CONTROL, ShortcutKey::Ctrl2},
+    {'3', wxMOD_CONTROL, ShortcutKey::Ctrl3},
+    {'4', wxMOD_CONTROL, ShortcutKey::Ctrl4},
+    {WXK_F1, wxMOD_NONE, ShortcutKey::F1},
+    {WXK_F2, wxMOD_NONE, ShortcutKey::F2},
+    {WXK_F3, wxMOD_NONE, ShortcutKey::F3},
+    {WXK_F4, wxMOD_NONE, ShortcutKey::F4},
+    {WXK_F5, wxMOD_NONE, ShortcutKey::F5},
+    {WXK_F6, wxMOD_NONE, ShortcutKey::F6},
+    {WXK_F8, wxMOD_NONE, ShortcutKey::F8},
+    {'1', wxMOD_NONE, ShortcutKey::Digit1},
+    {'2', wxMOD_NONE, ShortcutKey::Digit2},
+    {'3', wxMOD_NONE, ShortcutKey::Digit3},
+    {'4', wxMOD_NONE, ShortcutKey::Digit4},
+    {'5', wxMOD_NONE, ShortcutKey::Digit5},
+    {'6', wxMOD_NONE, ShortcutKey::Digit6},
+    {WXK_NUMPAD1, wxMOD_NONE, ShortcutKey::Digit1},
+    {WXK_NUMPAD2, wxMOD_NONE, ShortcutKey::Digit2},
+    {WXK_NUMPAD3, wxMOD_NONE, ShortcutKey::Digit3},
+    {WXK_NUMPAD4, wxMOD_NONE, ShortcutKey::Digit4},
+    {WXK_NUMPAD5, wxMOD_NONE, ShortcutKey::Digit5},
+    {WXK_NUMPAD6, wxMOD_NONE, ShortcutKey::Digit6},
+};
 
 // A tool goes and comes with its owner, so that it can't be put away, or spread out, on its own.
 constexpr long ToolStyle = (wxDEFAULT_FRAME_STYLE & ~(wxMINIMIZE_BOX | wxMAXIMIZE_BOX)) |
                            wxFRAME_FLOAT_ON_PARENT | wxFRAME_NO_TASKBAR;
 
-// The shortcut that the pressed key is on the form as the focus stands.
-std::optional<ShortcutKey> ShortcutOf(const wxKeyEvent& event, Form& form, const Control* focus) {
+// What the pressed key means on the form as the focus stands.
+struct MeantKey {
+    ShortcutKey key;
+    bool repeats;  // as long as it is held
+};
+
+std::optional<MeantKey> MeaningOf(const wxKeyEvent& event, Form& form, const Control* focus) {
     for (const auto& known : ShortcutKeys) {
         if (known.code != event.GetKeyCode() || known.modifiers != event.GetModifiers()) continue;
+        if (known.key == ShortcutKey::F1) return MeantKey{known.key, false};
         for (const Shortcut& shortcut : form.Shortcuts()) {
-            if (shortcut.key == known.key && (shortcut.where == nullptr || shortcut.where == focus))
-                return known.key;
+            if (shortcut.key != known.key || (shortcut.where != nullptr && shortcut.where != focus)) continue;
+            return MeantKey{known.key, shortcut.button == nullptr || shortcut.button->Repeats()};
         }
     }
     return std::nullopt;
@@ -189,8 +220,10 @@ void NativeForm::OnKey(wxKeyEvent& event) {
              [option, forward](UserDoor& door) { return door.Arrow(*option, *forward); });
         return;
     }
-    if (const auto key = ShortcutOf(event, *form_, desktop_.FocusOfProgram())) {
-        Post(NativeAct::Kind::Act, nullptr, [this, key](UserDoor& door) { return door.Key(*form_, *key); });
+    if (const auto meant = MeaningOf(event, *form_, desktop_.FocusOfProgram())) {
+        if (event.IsAutoRepeat() && !meant->repeats) return;
+        Post(NativeAct::Kind::Act, nullptr,
+             [this, key = meant->key](UserDoor& door) { return door.Key(*form_, key); });
         return;
     }
     event.Skip();

@@ -77,6 +77,11 @@ void NameForAccess(wxWindow& widget, const std::string& id, const wxString& spok
     if (!spoken.empty()) atk_object_set_name(access, spoken.utf8_str());
 }
 
+void DescribeForAccess(wxWindow& widget, const wxString& words) {
+    AtkObject* access = gtk_widget_get_accessible(Core(widget));
+    if (access != nullptr) atk_object_set_description(access, words.utf8_str());
+}
+
 void MarkAsAlert(wxWindow& window) {
     atk_object_set_role(gtk_widget_get_accessible(window.GetHandle()), ATK_ROLE_ALERT);
 }
@@ -125,10 +130,12 @@ double DotsPerInch() {
 
 namespace {
 
-// A widget as the system describes it, but for its name.
+// A widget as the system describes it, but for its name and what is said of it.
 class NamedAccess final : public wxAccessible {
   public:
     NamedAccess(wxWindow* widget, const wxString& name) : wxAccessible(widget), name_(name) {}
+
+    void Describe(const wxString& words) { description_ = words; }
 
     wxAccStatus GetName(int child, wxString* name) override {
         if (child != wxACC_SELF) return wxACC_NOT_IMPLEMENTED;
@@ -136,8 +143,15 @@ class NamedAccess final : public wxAccessible {
         return wxACC_OK;
     }
 
+    wxAccStatus GetDescription(int child, wxString* description) override {
+        if (child != wxACC_SELF || description_.empty()) return wxACC_NOT_IMPLEMENTED;
+        *description = description_;
+        return wxACC_OK;
+    }
+
   private:
     wxString name_;
+    wxString description_;
 };
 
 }  // namespace
@@ -151,6 +165,10 @@ void NameForAccess(wxWindow& widget, const std::string& id, const wxString& spok
     // What shows a text of its own is called by it, and what describes its own lines must go on doing so.
     if (spoken.empty() || !widget.GetLabel().empty() || widget.GetOrCreateAccessible() != nullptr) return;
     widget.SetAccessible(new NamedAccess(&widget, spoken));
+}
+
+void DescribeForAccess(wxWindow& widget, const wxString& words) {
+    if (auto* access = dynamic_cast<NamedAccess*>(widget.GetAccessible())) access->Describe(words);
 }
 
 void MarkAsAlert(wxWindow&) {}

@@ -15,6 +15,8 @@ void RunNext(std::function<void()> task);
 // Names a widget for programs that drive or read the screen: `id` is the name of its control, `spoken` what a
 // screen reader says, where it differs from what the widget shows; empty leaves that to the widget.
 void NameForAccess(wxWindow& widget, const std::string& id, const wxString& spoken);
+// What a screen reader says of the widget behind its name. Behind the first NameForAccess.
+void DescribeForAccess(wxWindow& widget, const wxString& words);
 
 // Makes a screen reader read the window out when it comes up.
 void MarkAsAlert(wxWindow& window);

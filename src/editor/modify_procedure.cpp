@@ -50,6 +50,13 @@ ModifyProcedure::ModifyProcedure(const Workplace& workplace, const EditorTools& 
         button->SetEnabled(false);
     }
     for (Button* button : {&MoveUp, &MoveDown, &UndoCommand, &RedoCommand}) button->SetRepeats();
+    for (const auto& [button, label] :
+         std::initializer_list<std::pair<Button&, const Label&>>{{FindNavCommand, Label7},
+                                                                 {FindFixCommand, Label5},
+                                                                 {FindAirportCommand, Label8},
+                                                                 {CreateWaypointCommand, Label9}}) {
+        button.SetTip(label.Caption());
+    }
     Connect();
     state_.Rows.Observe(*this);
     ShowRowsInUse();

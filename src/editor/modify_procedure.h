@@ -101,18 +101,7 @@ class ModifyProcedure : public Form, private RowsObserver {
     Flag LatEdited = False;
     Flag LongEdited = False;
 
-    std::vector<Shortcut> Shortcuts() override {
-        return {{ShortcutKey::Delete, &WaypointList, &DeleteWaypointCommand},
-                {ShortcutKey::CtrlUp, &WaypointList, &MoveUp},
-                {ShortcutKey::CtrlDown, &WaypointList, &MoveDown},
-                {ShortcutKey::Delete, &Pictures.LegsList, nullptr, [this] { DeleteBlock(); }},
-                {ShortcutKey::CtrlUp, &Pictures.LegsList, nullptr, [this] { MoveBlock(-1); }},
-                {ShortcutKey::CtrlDown, &Pictures.LegsList, nullptr, [this] { MoveBlock(1); }},
-                {ShortcutKey::CtrlS, nullptr, &SaveCommand},
-                {ShortcutKey::CtrlZ, nullptr, &UndoCommand},
-                {ShortcutKey::CtrlY, nullptr, &RedoCommand},
-                {ShortcutKey::CtrlShiftZ, nullptr, &RedoCommand}};
-    }
+    std::vector<Shortcut> Shortcuts() override;
 
     // Opening and closing (modify_procedure.cpp).
     void Form_Load() override;

@@ -53,9 +53,57 @@ void ModifyProcedure::Connect() {
          }) {
         button.OnClick = run(operation);
     }
+    SetTips(
+        {{AptNameText, "ICAO code of the airport, 4 characters: the file's name begins with it"},
+         {BasicNameText, "Name of the procedure: up to 7 characters"},
+         {TransitionText, "Name of a transition, or the runway of a runway departure: up to 7 characters"},
+         {FixNameText, "Name of the fix: up to 7 characters; empty for a navaid"},
+         {NAVIDText, "Identifier of the navaid: up to 4 characters; empty for a fix"},
+         {FreqText, "Frequency of the navaid: MHz of a VOR, kHz of an NDB"},
+         {DDMLatText, "Latitude: whole degrees, 0 to 90"},
+         {DMMLatText, "Latitude: minutes below 60, with decimals"},
+         {DDMLongText, "Longitude: whole degrees, 0 to 180"},
+         {DMMLongText, "Longitude: minutes below 60, with decimals"},
+         {Alt1Text, "Altitude, of a band the lower one: feet"},
+         {Alt2Text, "Upper altitude of a band: feet"},
+         {AirspeedText, "Airspeed: knots"}});
     AirspeedText.OnChange = run(&Self::AirspeedText_Change);
     RwySpecificCheck.OnClick = run(&Self::RwySpecificCheck_Click);
     WaypointList.OnClick = run(&Self::WaypointList_Click);
+}
+
+std::vector<Shortcut> ModifyProcedure::Shortcuts() {
+    using enum ShortcutKey;
+    const auto page = [this](int index) { return [this, index] { Pictures.GoToPage(index); }; };
+    std::vector<Shortcut> keys = {
+        {F2, nullptr, &FindFixCommand},
+        {F3, nullptr, &FindNavCommand},
+        {F4, nullptr, &FindAirportCommand},
+        {F5, nullptr, &AddArcCommand},
+        {F6, nullptr, &CreateWaypointCommand},
+        {F8, nullptr, &ClearDataCommand},
+        {Delete, &WaypointList, &DeleteWaypointCommand},
+        {CtrlUp, &WaypointList, &MoveUp},
+        {CtrlDown, &WaypointList, &MoveDown},
+        {Delete, &Pictures.LegsList, nullptr, [this] { DeleteBlock(); }},
+        {CtrlUp, &Pictures.LegsList, nullptr, [this] { MoveBlock(-1); }},
+        {CtrlDown, &Pictures.LegsList, nullptr, [this] { MoveBlock(1); }},
+        {CtrlS, nullptr, &SaveCommand},
+        {CtrlZ, nullptr, &UndoCommand},
+        {CtrlY, nullptr, &RedoCommand},
+        {CtrlShiftZ, nullptr, &RedoCommand},
+        {CtrlL, nullptr, nullptr, [this] { WaypointList.SetFocus(); }},
+        {Ctrl1, nullptr, nullptr, page(0)},
+        {Ctrl2, nullptr, nullptr, page(1)},
+        {Ctrl3, nullptr, nullptr, page(2)},
+        {Ctrl4, nullptr, nullptr, page(3)},
+    };
+    // On the chart it takes what is marked there.
+    if (Pictures.PlanPicture.HasFocus() && Pictures.HasMark()) return keys;
+    for (Button* command : {&AddWaypointCommand, &ModifyWaypointCommand}) {
+        keys.push_back({CtrlEnter, nullptr, command});
+    }
+    return keys;
 }
 
 }  // namespace tarvex

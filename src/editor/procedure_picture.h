@@ -40,6 +40,10 @@ class ProcedurePicture {
     Button SavePictureCommand;
     Label PictureLabel;  // what is pointed at or marked, else what there is to say of the whole
 
+    // Whether an entry of the tables is marked.
+    bool HasMark() const { return marked_.kind != Target::Kind::None; }
+    // Shows that page and gives the focus to what is on it.
+    void GoToPage(int index);
     void RowsChanged(const ProcedureRows::Change& change);
     // What was selected in LegsList moved to these rows, with the one to extend it from, and stays selected.
     void KeepBlock(std::vector<int> rows, int anchor);

@@ -82,6 +82,14 @@ void ProcedurePicture::ConnectRest() {
     SavePictureCommand.OnClick = [this] { SavePictureCommand_Click(); };
 }
 
+// The focus first: the rule of the box that is left may keep it.
+void ProcedurePicture::GoToPage(int index) {
+    PictureTabs.SetFocus();
+    if (!PictureTabs.HasFocus()) return;
+    PictureTabs.SetIndex(index);
+    PictureTabs.Pages()[static_cast<std::size_t>(index)].content->SetFocus();
+}
+
 void ProcedurePicture::Zoom(double steps) {
     const Picture& picture = PlanPicture.Visible() ? PlanPicture : ProfilePicture;
     picture.OnZoom(steps, {picture.Room().width / 2, picture.Room().height / 2});

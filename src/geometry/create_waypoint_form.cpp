@@ -36,6 +36,9 @@ CreateWaypointForm::CreateWaypointForm(FormHost& host, Dialogue& dialogue, Start
                                                             &RunwayCommand, &Label3}) {
         control->PutInto(Frame1);
     }
+    SetTips({{TrueCourseText, "Course from the starting point: degrees true, 0 to 360"},
+             {DistText, "Distance from the starting point: nautical miles"},
+             {WaypointIDText, "Name of the new waypoint: up to 5 characters"}});
     NavaidCommand.OnClick = [this] { NavaidCommand_Click(); };
     FixCommand.OnClick = [this] { FixCommand_Click(); };
     RunwayCommand.OnClick = [this] { RunwayCommand_Click(); };

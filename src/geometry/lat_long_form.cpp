@@ -30,6 +30,10 @@ LatLongForm::LatLongForm(FormHost& host, Dialogue& dialogue, ArcVariables& varia
     : Form(host, "LatLongForm", "Lat/Long Centerpoint"), dialogue_(dialogue), variables_(variables) {
     NorthOption.SelectAtFirst();
     EastOption.SelectAtFirst();
+    SetTips({{DLatCenterText, "Latitude of the centre: whole degrees, 0 to 90"},
+             {MLatCenterText, "Latitude of the centre: minutes below 60, with decimals"},
+             {DLongCenterText, "Longitude of the centre: whole degrees, 0 to 180"},
+             {MLongCenterText, "Longitude of the centre: minutes below 60, with decimals"}});
     DLatCenterText.OnLostFocus = [this] { DLatCenterText_LostFocus(); };
     MLatCenterText.OnLostFocus = [this] { MLatCenterText_LostFocus(); };
     DLongCenterText.OnLostFocus = [this] { DLongCenterText_LostFocus(); };

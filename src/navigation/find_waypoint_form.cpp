@@ -29,6 +29,7 @@ FindWaypointForm::FindWaypointForm(FormHost& host, Dialogue& dialogue, const Nav
     Frame1.SetPlace(DesignedFrame.first, DesignedFrame.second);
     PointerListBox.SetVisible(false);
     FreqLabel.SetVisible(false);
+    SetTips({{SearchText, "Identifier to look for, whole: a fix, a navaid, or the ICAO code of an airport"}});
     SearchCommand.OnClick = [this] { SearchCommand_Click(); };
     WaypointListBox.OnClick = [this] { WaypointListBox_Click(); };
     AddWaypoint.OnClick = [this] { AddWaypoint_Click(); };

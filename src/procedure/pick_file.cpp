@@ -10,6 +10,7 @@ PickFile::PickFile(FormHost& host, FileSystem& files, ProcedureVariables& variab
       variables_(variables),
       listed_(variables),
       opener_(std::move(opener)) {
+    SetTips({{PickICAO, "ICAO code of the airport, or its beginning: up to 4 characters"}});
     FileList.OnClick = [this] { FileList_Click(); };
     PickICAO.OnChange = [this] { PickICAO_Change(); };
     DoneCommand.OnClick = [this] { DoneCommand_Click(); };

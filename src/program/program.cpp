@@ -8,6 +8,7 @@
 #include "navigation/find_waypoint_form.h"
 #include "procedure/pick_file.h"
 #include "startup/find_fs2000_form.h"
+#include "startup/guide.h"
 #include "startup/initial_load.h"
 
 namespace tarvex {
@@ -36,6 +37,7 @@ Program::Program(const Platform& services)
       createWaypointForm(host,
                          [this] { return std::make_unique<CreateWaypointForm>(host, dialogue, state); }),
       latLongForm(host, [this] { return std::make_unique<LatLongForm>(host, dialogue, state); }) {
+    host.SetHelp([this] { ShowGuide(platform, dialogue); });
     host.SetFailureReport([this](const Failure& failure) {
         dialogue.Ask({.prompt = "The operation could not be finished: " + failure.Reason() + " (error " +
                                 NumberText(failure.Number()) + ")."});

@@ -22,6 +22,14 @@ class InitialLoad : public Form {
     Button CreateIAP{*this, "CreateIAP", "Create a New IAP", 5};
     Button CreateSTAR{*this, "CreateSTAR", "Create a New STAR", 6};
 
+    Button* WayOut() override { return &ExitCommand; }
+    // The digits go by the rows of the window.
+    std::vector<Shortcut> Shortcuts() override {
+        return {{ShortcutKey::Digit1, nullptr, &CreateDP},   {ShortcutKey::Digit2, nullptr, &ModifyDP},
+                {ShortcutKey::Digit3, nullptr, &CreateSTAR}, {ShortcutKey::Digit4, nullptr, &ModifySTAR},
+                {ShortcutKey::Digit5, nullptr, &CreateIAP},  {ShortcutKey::Digit6, nullptr, &ModifyIAP}};
+    }
+
     // The start sequence: settings, navigation tables. Without settings and without the simulator's registry
     // value it ends with the menu hidden and FindFS2000Form on the screen. Stops the program where it can't
     // go on.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "toolkit/form_host.h"
+#include "toolkit/simple_controls.h"
 
 namespace tarvex {
 
@@ -52,6 +53,16 @@ Control* Form::NextTabStop(const Control* from, bool forward) const {
     const auto previous = std::find_if(stops.rbegin(), stops.rend(),
                                        [here](const Control* stop) { return stop->TabIndex() < here; });
     return previous == stops.rend() ? stops.back() : *previous;
+}
+
+void Form::NameKeys() {
+    for (const Shortcut& shortcut : Shortcuts()) {
+        if (shortcut.button == nullptr || !shortcut.button->Key().empty()) continue;
+        std::string name(NameOf(shortcut.key));
+        if (shortcut.where != nullptr) name += shortcut.key == ShortcutKey::Enter ? "" : " in the list";
+        shortcut.button->SetKey(name);
+    }
+    if (Button* way = WayOut()) way->SetKey("Escape");
 }
 
 }  // namespace tarvex

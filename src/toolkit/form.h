@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "toolkit/control.h"
+#include "toolkit/shortcut_key.h"
 
 namespace tarvex {
 
@@ -13,9 +14,8 @@ class Button;
 class FormHost;
 class TextBox;
 
-enum class ShortcutKey { Delete, CtrlUp, CtrlDown, CtrlS, CtrlZ, CtrlY, CtrlShiftZ, Enter };
-
-// A key of a form that presses a button of it, or does something else.
+// A key of a form that presses a button of it, or does something else. Of several of one key the first whose
+// button can be pressed counts.
 struct Shortcut {
     ShortcutKey key;
     const Control* where;  // the control that must have the focus; null for any of the form
@@ -56,6 +56,9 @@ class Form {
     virtual std::vector<Shortcut> Shortcuts() { return {}; }
     // The box that takes what is typed while a list of the form has the focus; null for none.
     virtual TextBox* BoxOfLetters() { return nullptr; }
+
+    // Tells each button the name of its key.
+    void NameKeys();
 
     // Called after every change of the caption; for the native window.
     void Observe(std::function<void()> observer) { observer_ = std::move(observer); }

@@ -91,6 +91,7 @@ void FormSlotBase::Show() {
     }
     if (form_ == nullptr) {
         form_ = Make();
+        form_->NameKeys();
         const Form* made = form_.get();
         loading_ = true;
         hiddenInLoad_ = false;

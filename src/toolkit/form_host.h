@@ -47,6 +47,12 @@ class FormHost {
     void SetObserver(FormObserver* observer) { observer_ = observer; }
     FormObserver& Notify() { return observer_ != nullptr ? *observer_ : silent_; }
 
+    // What F1 does on any form.
+    void SetHelp(std::function<void()> help) { help_ = std::move(help); }
+    void Help() const {
+        if (help_) help_();
+    }
+
     // What becomes of a failure that no operation expected; the event ends with it.
     void SetFailureReport(std::function<void(const Failure&)> report) { report_ = std::move(report); }
 
@@ -79,6 +85,7 @@ class FormHost {
     int eventDepth_ = 0;
     std::optional<ProgramStopped> stopped_;
     std::function<void(const Failure&)> report_;
+    std::function<void()> help_;
 };
 
 // The place of one form. The form is made at its first showing, with Form_Load, and again at the first

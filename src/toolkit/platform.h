@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "toolkit/browser.h"
 #include "toolkit/clock.h"
 #include "toolkit/file_system.h"
 #include "toolkit/message_box.h"
@@ -17,6 +18,7 @@ struct Platform {
     Clock& clock;
     MessageBox& messages;
     PictureServices& pictures;
+    Browser& browser;
     std::string programFolder;  // the folder that holds the executable, as a path of `files`
 };
 

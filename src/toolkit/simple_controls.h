@@ -1,8 +1,10 @@
 #pragma once
 
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "toolkit/control.h"
 
@@ -67,6 +69,9 @@ class TextBox : public Control {
     void SetLocked(bool locked);
     Colour BackColor() const { return backColor_; }
     void SetBackColor(Colour colour);
+    // What it takes, with unit and range; said beside the pointer, and by a screen reader as its description.
+    const std::string& Tip() const { return tip_; }
+    void SetTip(std::string_view tip) { tip_ = tip; }
     bool TakesFocus() const override { return true; }
     void FocusGone() override { typing_.reset(); }
 
@@ -85,7 +90,14 @@ class TextBox : public Control {
     int maxLength_;
     bool locked_ = false;
     Colour backColor_ = White;
+    std::string tip_;
 };
+
+// The tips of a screen's boxes.
+using BoxTip = std::pair<TextBox&, std::string_view>;
+inline void SetTips(std::initializer_list<BoxTip> tips) {
+    for (const auto& [box, tip] : tips) box.SetTip(tip);
+}
 
 // What a press of a button makes of what the boxes hold.
 enum class Boxes { Kept, Dropped };
@@ -104,6 +116,9 @@ class Button : public CaptionedControl {
     // What it does, said beside the pointer and by a screen reader; empty leaves that to its window.
     const std::string& Tip() const { return tip_; }
     void SetTip(std::string_view tip);
+    // The name of the key that presses it; stands behind the tip. Empty for none.
+    const std::string& Key() const { return key_; }
+    void SetKey(std::string_view key) { key_ = key; }
 
     // A double click presses the button once, unless it repeats: then each click is a press of its own.
     bool Repeats() const { return repeats_; }
@@ -114,6 +129,7 @@ class Button : public CaptionedControl {
   private:
     Boxes boxes_;
     std::string tip_;
+    std::string key_;
     bool repeats_ = false;
 };
 

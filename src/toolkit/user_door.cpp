@@ -228,10 +228,18 @@ bool UserDoor::Escape(Form& form) {
 bool UserDoor::Key(Form& form, ShortcutKey key) {
     Control* before = host_.GetFocus().Current();
     if (before != nullptr && &before->Owner() != &form) return false;
+    if (key == ShortcutKey::F1 && OnScreen(host_, form)) {
+        host_.RunEvent([this] { host_.Help(); });
+        return true;
+    }
     const auto shortcuts = form.Shortcuts();
-    const auto found = std::find_if(shortcuts.begin(), shortcuts.end(), [&](const Shortcut& shortcut) {
+    const auto isMeant = [&](const Shortcut& shortcut) {
         return shortcut.key == key && (shortcut.where == nullptr || shortcut.where == before);
+    };
+    auto found = std::find_if(shortcuts.begin(), shortcuts.end(), [&](const Shortcut& shortcut) {
+        return isMeant(shortcut) && (shortcut.button == nullptr || shortcut.button->Usable());
     });
+    if (found == shortcuts.end()) found = std::find_if(shortcuts.begin(), shortcuts.end(), isMeant);
     if (found == shortcuts.end()) return false;
     host_.RunEvent([&] {
         if (Retypes(before, key)) return;

@@ -28,8 +28,9 @@ constexpr std::string_view Texts[] = {"0",    "5",  "33", "90", "91",    "117", 
                                       "045",  "60", "-5", "-",  "alpha", "DMO", "12a",  "FL35",
                                       "1e99", ".",  " 7", " x", "X.Y",   "KX",  "\xE9", ""};
 constexpr std::string_view Rubbish = "  --..0123456789ABCabc,\"'eED+&\xE9\\/*?:%;\t";
+// Those that are pressed often; now and then it is any.
 constexpr std::string_view Keys[] = {"Tab",   "Tab",   "BackTab", "Delete", "CtrlUp", "CtrlDown",
-                                     "CtrlZ", "CtrlZ", "CtrlY",   "Enter",  "Escape"};
+                                     "CtrlZ", "CtrlZ", "CtrlY",   "Enter",  "Escape", "CtrlEnter"};
 // What leads away from a screen is taken rarely.
 constexpr std::string_view WaysOut[] = {"SaveCommand", "OopsCommand", "ExitCommand", "GoBackCommand"};
 
@@ -82,7 +83,12 @@ std::string RandomUser::Choose() {
     }
     const Form& form = chance_.Percent(70) ? *visible.back() : *chance_.Of(visible);
     const std::size_t kind = chance_.Below(100);
-    if (kind < 8) return "key " + std::string(chance_.Of(Keys));
+    if (kind < 6) return "key " + std::string(chance_.Of(Keys));
+    if (kind < 8) {
+        std::string name(chance_.Of(NamedKeys).name);
+        std::erase(name, '+');
+        return "key " + name;
+    }
     if (kind < 9) return "front " + form.Name();
     if (kind < 10 && chance_.Percent(20)) return "close " + form.Name();
     const Control* control = chance_.Of(form.Controls());

@@ -10,11 +10,12 @@ namespace tarvex::testing {
 
 namespace {
 
-constexpr std::pair<std::string_view, ShortcutKey> Keys[] = {
-    {"Delete", ShortcutKey::Delete},         {"CtrlUp", ShortcutKey::CtrlUp},
-    {"CtrlDown", ShortcutKey::CtrlDown},     {"CtrlS", ShortcutKey::CtrlS},
-    {"CtrlZ", ShortcutKey::CtrlZ},           {"CtrlY", ShortcutKey::CtrlY},
-    {"CtrlShiftZ", ShortcutKey::CtrlShiftZ}, {"Enter", ShortcutKey::Enter}};
+// As a road writes it: "CtrlUp".
+std::string PlainName(const NamedKey& named) {
+    std::string name(named.name);
+    std::erase(name, '+');
+    return name;
+}
 
 }  // namespace
 
@@ -22,7 +23,8 @@ std::string Road::Start(FileSystem* files, const std::string& folder) {
     const Platform machine = services.ForProgram();
     copies_.clear();
     program = std::make_unique<Program>(Platform{files != nullptr ? *files : machine.files, machine.registry,
-                                                 machine.clock, machine.messages, machine.pictures, folder});
+                                                 machine.clock, machine.messages, machine.pictures,
+                                                 machine.browser, folder});
     program->host.SetObserver(this);
     place_.clear();
     rows_.clear();
@@ -191,9 +193,9 @@ bool Road::PressKey(std::string_view key) {
     Form& front = *program->host.Visible().back();
     if (key == "Tab" || key == "BackTab") return program->door.Tab(front, key == "Tab");
     if (key == "Escape") return program->door.Escape(front);
-    const auto* found = std::find_if(std::begin(Keys), std::end(Keys),
-                                     [key](const auto& entry) { return entry.first == key; });
-    return found != std::end(Keys) && program->door.Key(front, found->second);
+    const auto* found = std::find_if(std::begin(NamedKeys), std::end(NamedKeys),
+                                     [key](const NamedKey& named) { return PlainName(named) == key; });
+    return found != std::end(NamedKeys) && program->door.Key(front, found->key);
 }
 
 Form* Road::Screen(std::string_view name) const {

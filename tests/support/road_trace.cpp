@@ -59,9 +59,6 @@ std::string KindOf(const Control& control) {
     return "drives";
 }
 
-constexpr const char* KeyNames[] = {"Delete", "CtrlUp", "CtrlDown",   "CtrlS",
-                                    "CtrlZ",  "CtrlY",  "CtrlShiftZ", "Enter"};  // by ShortcutKey
-
 }  // namespace
 
 std::string Road::Written(std::string_view text) {
@@ -216,6 +213,7 @@ Road::State Road::StateOf(const Control& control) {
         state.text = box->Text();
         parts["colour"] = ColourName(box->BackColor());
         parts["lock"] = box->Locked() ? "locked" : "open";
+        parts["tip"] = Quoted(box->Tip());
     } else if (const auto* captioned = dynamic_cast<const CaptionedControl*>(&control)) {
         state.text = captioned->Caption();
         const auto* label = dynamic_cast<const Label*>(&control);
@@ -223,6 +221,9 @@ Road::State Road::StateOf(const Control& control) {
     }
     if (const auto* button = dynamic_cast<const Button*>(&control)) {
         parts["tip"] = button->Tip().empty() ? "" : Quoted(button->Tip());
+        parts["key"] = button->Key();
+    } else if (const auto* picture = dynamic_cast<const Picture*>(&control)) {
+        parts["tip"] = Quoted(picture->Tip());
     } else if (const auto* option = dynamic_cast<const OptionButton*>(&control)) {
         parts["value"] = option->Value() ? "picked" : "";
     } else if (const auto* check = dynamic_cast<const CheckBox*>(&control)) {
@@ -290,6 +291,9 @@ void Road::NoteChanges(const States& before) {
         Note("@" + FocusName());
     }
     NoteFiles();
+    if (const std::string opened = std::exchange(services.browser.opened, {}); !opened.empty()) {
+        Note("opened " + Written(opened));
+    }
     if (!Runs()) return;
     if (const std::string untold = Untold(); !untold.empty()) Note("not told: " + untold);
     const auto rows = Rows();
@@ -361,7 +365,7 @@ std::string Road::Show(std::string_view screen) {
     Note(Quoted(form->Caption()) + ", way out " +
          (form->WayOut() == nullptr ? "none" : form->WayOut()->Name()) + ", focus " + FocusName());
     for (const Shortcut& shortcut : form->Shortcuts()) {
-        Note(std::string(KeyNames[static_cast<int>(shortcut.key)]) +
+        Note(std::string(NameOf(shortcut.key)) +
              (shortcut.button == nullptr ? " acts" : " presses " + shortcut.button->Name()) +
              (shortcut.where == nullptr ? "" : " in " + shortcut.where->Name()));
     }

@@ -105,6 +105,18 @@ class ScriptedPictures : public PictureServices {
     void Copy(const std::string& text) override { copied = text; }
 };
 
+// Keeps what it was to open, unless there is none.
+class ScriptedBrowser : public Browser {
+  public:
+    bool there = true;
+    std::string opened;
+
+    bool Open(const std::string& path) override {
+        if (there) opened = path;
+        return there;
+    }
+};
+
 // The services of a machine of which everything is in memory. The program lies in C:\Tarvex, the simulator in
 // C:\FS2000.
 struct TestServices {
@@ -113,10 +125,11 @@ struct TestServices {
     FixedClock clock;
     ScriptedMessageBox messages;
     ScriptedPictures pictures;
+    ScriptedBrowser browser;
 
     TestServices() { files.PutFolder("C:\\Tarvex"); }
 
-    Platform ForProgram() { return {files, registry, clock, messages, pictures, "C:\\Tarvex"}; }
+    Platform ForProgram() { return {files, registry, clock, messages, pictures, browser, "C:\\Tarvex"}; }
 
     // The simulator's folder as its setup leaves it in the registry.
     void Register(const std::string& folder) {
