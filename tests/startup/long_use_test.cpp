@@ -67,7 +67,7 @@ std::string CheckRows(const Rows& before, const Rows& now, const std::string& ac
     if (now == before) return "";
     const bool undone = std::ranges::any_of(Undoing, [&act](auto name) { return act.ends_with(name); });
     if (undone) return ++counts.undone, "";
-    if (act.starts_with("key ") || act.find("#before ") != std::string::npos) {
+    if ((act.starts_with("key ") && act != "key CtrlEnter") || act.find("#before ") != std::string::npos) {
         // What a block was moved among, or out of.
         counts.blocks += before.size() > now.size() + 1 || act.find('#') != std::string::npos;
         Rows left = now, all = before;
