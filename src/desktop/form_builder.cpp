@@ -162,7 +162,7 @@ void FormBuilder::FillPage(const Control& content, wxWindow* widget) {
 LineList* FormBuilder::Put(ColumnList& list, wxSize characters, const wxString& spoken) {
     std::vector<LineList::Column> columns;
     for (const auto& [heading, number] : list.Columns()) columns.push_back({Shown(heading), number});
-    auto* widget = new LineList(ParentOf(list), columns);
+    auto* widget = new LineList(ParentOf(list), columns, list.OnMove != nullptr);
     widget->SetMinSize(SizeOf(characters));
     window_.Tie<ColumnListBinder>(list, *widget, spoken);
     FillPage(list, widget);

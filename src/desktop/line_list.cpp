@@ -1,5 +1,6 @@
 #include "desktop/line_list.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "desktop/window_system.h"
@@ -38,12 +39,13 @@ class LineList::Model final : public wxDataViewVirtualListModel {
 };
 
 LineList::LineList(wxWindow* parent, long style, Model* model)
-    : wxDataViewCtrl(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxDV_SINGLE | style), model_(model) {
+    : wxDataViewCtrl(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, style), model_(model) {
     AssociateModel(model_);
     model_->DecRef();
 }
 
-LineList::LineList(wxWindow* parent, bool icons) : LineList(parent, wxDV_NO_HEADER, new Model(1, icons)) {
+LineList::LineList(wxWindow* parent, bool icons)
+    : LineList(parent, wxDV_SINGLE | wxDV_NO_HEADER, new Model(1, icons)) {
     if (icons) {
         Append(new wxDataViewIconTextRenderer, {}, 0, wxCOL_WIDTH_AUTOSIZE, false);
     } else {
@@ -53,8 +55,9 @@ LineList::LineList(wxWindow* parent, bool icons) : LineList(parent, wxDV_NO_HEAD
     }
 }
 
-LineList::LineList(wxWindow* parent, const std::vector<Column>& columns)
-    : LineList(parent, 0L, new Model(static_cast<unsigned>(columns.size()), false)) {
+LineList::LineList(wxWindow* parent, const std::vector<Column>& columns, bool blocks)
+    : LineList(parent, blocks ? wxDV_MULTIPLE : wxDV_SINGLE,
+               new Model(static_cast<unsigned>(columns.size()), false)) {
     for (unsigned i = 0; const Column& column : columns) {
         Append(new wxDataViewTextRenderer, column.heading, i++, wxCOL_WIDTH_AUTOSIZE, column.number);
     }
@@ -84,20 +87,68 @@ int LineList::LineOf(const wxDataViewItem& item) const {
     return item.IsOk() ? static_cast<int>(model_->GetRow(item)) : NoLine;
 }
 
+int LineList::Count() const {
+    return static_cast<int>(model_->GetCount());
+}
+
+wxDataViewItem LineList::ItemOf(int line) const {
+    return model_->GetItem(static_cast<unsigned>(line));
+}
+
 void LineList::SelectLine(int line) {
     if (line == Line()) return;
     if (line == NoLine) {
         UnselectAll();
         return;
     }
-    const wxDataViewItem item = model_->GetItem(static_cast<unsigned>(line));
-    SetCurrentItem(item);
-    Select(item);
-    EnsureVisible(item);
+    SetCurrentItem(ItemOf(line));
+    Select(ItemOf(line));
+    Show(line);
+}
+
+std::vector<int> LineList::Selected() const {
+    wxDataViewItemArray items;
+    GetSelections(items);
+    std::vector<int> lines;
+    for (const wxDataViewItem& item : items) lines.push_back(LineOf(item));
+    std::sort(lines.begin(), lines.end());
+    return lines;
+}
+
+void LineList::SelectLines(const std::vector<int>& lines, int cursor) {
+    if (lines == Selected()) return;
+    if (cursor != NoLine) SetCurrentItem(ItemOf(cursor));
+    UnselectAll();
+    for (const int line : lines) Select(ItemOf(line));
+    if (cursor != NoLine) Show(cursor);
+}
+
+int LineList::LineAt(const wxPoint& place) {
+    wxDataViewItem item;
+    wxDataViewColumn* column = nullptr;
+    HitTest(GetMainWindow()->ScreenToClient(place), item, column);
+    const int line = LineOf(item);
+    return line < Count() ? line : NoLine;
+}
+
+int LineList::GapAt(const wxPoint& place) {
+    const int y = ScreenToClient(place).y;
+    const int line = LineAt(place);
+    const int near = line == NoLine ? LineOf(GetTopItem()) : line;
+    if (near == NoLine) return Count();
+    const wxRect room = GetItemRect(ItemOf(near));
+    const bool above = y < room.y + room.height / 2;
+    if (line == NoLine) return above ? near : Count();
+    return above ? line : line + 1;
+}
+
+void LineList::MarkGap(int gap) {
+    const bool last = gap > 0 && gap == Count();
+    MarkEdge(*this, last ? gap - 1 : gap, last);
 }
 
 void LineList::GoToLine(int line) {
-    SetCurrentItem(model_->GetItem(static_cast<unsigned>(line)));
+    SetCurrentItem(ItemOf(line));
     UnselectAll();
 }
 

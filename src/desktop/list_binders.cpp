@@ -1,6 +1,7 @@
 #include "desktop/list_binders.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <wx/artprov.h>
 
@@ -62,20 +63,49 @@ ColumnListBinder::ColumnListBinder(NativeForm& window, ColumnList& list, LineLis
     : Binder(window, list, widget, spoken), list_(list), widget_(widget) {
     widget.Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, [this](wxDataViewEvent&) { ToDoor(); });
     widget.Bind(wxEVT_CHAR_HOOK, &ColumnListBinder::OnKey, this);
+    if (!list.OnMove) return;
+    drag_.emplace(widget, LineDrag::Acts{
+                              .clicked = [this](int line) { PickAlone(line); },
+                              .dragged = [this] { return list_.Selected(); },
+                              .dropped =
+                                  [this](int before) {
+                                      Post([this, before](UserDoor& door) {
+                                          return before <= list_.ListCount() && door.MoveLines(list_, before);
+                                      });
+                                  },
+                          });
 }
 
-void ColumnListBinder::ToDoor() {
-    const int line = widget_.Line();
-    if (line == LineList::NoLine) return;
+void ColumnListBinder::PickAlone(int line) {
     Post([this, line](UserDoor& door) { return line < list_.ListCount() && door.PickLine(list_, line); });
 }
 
+void ColumnListBinder::ToDoor() {
+    const std::vector<int> lines = widget_.Selected();
+    const int cursor = widget_.Cursor();
+    const bool extends = drag_ && wxGetKeyState(WXK_SHIFT) && cursor != LineList::NoLine;
+    Post([this, lines, cursor, extends](UserDoor& door) {
+        if (lines.empty() || lines.back() >= list_.ListCount() || cursor >= list_.ListCount()) return false;
+        if (extends) return door.ExtendLines(list_, cursor);
+        const auto picked = [&lines](int line) {
+            return std::find(lines.begin(), lines.end(), line) != lines.end();
+        };
+        const int last = picked(list_.ListIndex()) ? list_.ListIndex() : lines.back();
+        return door.PickLines(list_, lines, picked(cursor) ? cursor : last);
+    });
+}
+
 void ColumnListBinder::OnKey(wxKeyEvent& event) {
-    if (event.GetKeyCode() != 'C' || event.GetModifiers() != wxMOD_CONTROL) {
+    const int key = event.GetModifiers() == wxMOD_CONTROL ? event.GetKeyCode() : WXK_NONE;
+    if (drag_ && drag_->TakesKey(event)) return;
+    if (key == 'C') {
+        Post([this](UserDoor& door) { return door.Copy(list_); });
+    } else if (key == 'A' && drag_) {
+        widget_.SelectAll();
+        ToDoor();
+    } else {
         event.Skip();
-        return;
     }
-    Post([this](UserDoor& door) { return door.Copy(list_); });
 }
 
 void ColumnListBinder::ToWidget() {
@@ -85,7 +115,7 @@ void ColumnListBinder::ToWidget() {
             return Shown(list_.Cells(static_cast<int>(line))[column]);
         });
     }
-    widget_.SelectLine(list_.ListIndex());
+    widget_.SelectLines(list_.Selected(), list_.ListIndex());
     Binder::ToWidget();
 }
 

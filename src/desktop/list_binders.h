@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -8,6 +9,7 @@
 #include <wx/listbox.h>
 
 #include "desktop/binder.h"
+#include "desktop/line_drag.h"
 #include "desktop/line_list.h"
 #include "toolkit/drive_lists.h"
 #include "toolkit/list_box.h"
@@ -35,11 +37,13 @@ class ColumnListBinder final : public Binder {
 
   private:
     void ToDoor();
+    void PickAlone(int line);
     void OnKey(wxKeyEvent& event);
 
     ColumnList& list_;
     LineList& widget_;
     std::vector<std::string> shown_;
+    std::optional<LineDrag> drag_;  // where lines can be moved
 };
 
 class DriveListBinder final : public Binder {

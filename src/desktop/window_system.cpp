@@ -1,9 +1,11 @@
 #include "desktop/window_system.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <wx/access.h>
 #include <wx/app.h>
+#include <wx/settings.h>
 
 #ifdef __WXGTK__
 #include <gdk/gdkx.h>
@@ -53,6 +55,31 @@ gboolean PresentMapped(GtkWidget* window, GdkEvent*, gpointer) {
     g_signal_handlers_disconnect_by_func(window, reinterpret_cast<gpointer>(PresentMapped), nullptr);
     gtk_window_present_with_time(GTK_WINDOW(window), MarkAsUsed(window));
     return GDK_EVENT_PROPAGATE;
+}
+
+// Sends a press, a drag or a release of the left button to the list's handlers; true: that was all.
+gboolean PassPress(GtkWidget*, GdkEvent* event, gpointer list) {
+    GdkModifierType keys{};
+    guint button = 0;
+    gdk_event_get_state(event, &keys);
+    gdk_event_get_button(event, &button);
+    wxMouseEvent passed;
+    if (event->type == GDK_BUTTON_PRESS && button == GDK_BUTTON_PRIMARY) {
+        passed.SetEventType(wxEVT_LEFT_DOWN);
+    } else if (event->type == GDK_BUTTON_RELEASE && button == GDK_BUTTON_PRIMARY) {
+        passed.SetEventType(wxEVT_LEFT_UP);
+    } else if (event->type == GDK_MOTION_NOTIFY && (keys & GDK_BUTTON1_MASK) != 0) {
+        passed.SetEventType(wxEVT_MOTION);
+    } else {
+        return GDK_EVENT_PROPAGATE;
+    }
+    passed.SetLeftDown(event->type != GDK_BUTTON_RELEASE);
+    passed.SetShiftDown((keys & GDK_SHIFT_MASK) != 0);
+    passed.SetControlDown((keys & GDK_CONTROL_MASK) != 0);
+    passed.SetAltDown((keys & GDK_MOD1_MASK) != 0);
+    auto* window = static_cast<wxDataViewCtrl*>(list);
+    passed.SetEventObject(window);
+    return window->HandleWindowEvent(passed) ? GDK_EVENT_STOP : GDK_EVENT_PROPAGATE;
 }
 
 // The widget that the user deals with: of a scrolled list the list.
@@ -118,6 +145,22 @@ void ActivateByClick(wxDataViewCtrl& list) {
 
 void LevelLines(wxDataViewCtrl& list) {
     gtk_tree_view_set_fixed_height_mode(GTK_TREE_VIEW(list.GtkGetTreeView()), TRUE);
+}
+
+void PassPresses(wxDataViewCtrl& list) {
+    for (const char* signal : {"button-press-event", "motion-notify-event", "button-release-event"}) {
+        g_signal_connect(list.GtkGetTreeView(), signal, G_CALLBACK(PassPress), &list);
+    }
+}
+
+// A press holds it by itself.
+void HoldMouse(wxDataViewCtrl&, bool) {}
+
+void MarkEdge(wxDataViewCtrl& list, int line, bool below) {
+    auto* view = GTK_TREE_VIEW(list.GtkGetTreeView());
+    GtkTreePath* path = line < 0 ? nullptr : gtk_tree_path_new_from_indices(line, -1);
+    gtk_tree_view_set_drag_dest_row(view, path, below ? GTK_TREE_VIEW_DROP_AFTER : GTK_TREE_VIEW_DROP_BEFORE);
+    gtk_tree_path_free(path);
 }
 
 double DotsPerInch() {
@@ -201,6 +244,39 @@ void ActivateByClick(wxDataViewCtrl& list) {
 }
 
 void LevelLines(wxDataViewCtrl&) {}
+
+void PassPresses(wxDataViewCtrl&) {}
+
+void HoldMouse(wxDataViewCtrl& list, bool hold) {
+    wxWindow* lines = list.GetMainWindow();
+    if (hold) {
+        lines->CaptureMouse();
+    } else if (lines->HasCapture()) {
+        lines->ReleaseMouse();
+    }
+}
+
+void MarkEdge(wxDataViewCtrl& list, int line, bool below) {
+    constexpr const char* Name = "mark of an edge";
+    constexpr int Thickness = 2;
+    wxWindow* lines = list.GetMainWindow();
+    wxWindow* mark = wxWindow::FindWindowByName(Name, lines);
+    if (line < 0) {
+        if (mark != nullptr) mark->Hide();
+        return;
+    }
+    if (mark == nullptr) {
+        mark = new wxWindow(lines, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE, Name);
+        mark->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
+    }
+    const auto* model = static_cast<const wxDataViewVirtualListModel*>(list.GetModel());
+    const wxRect place = list.GetItemRect(model->GetItem(static_cast<unsigned>(line)));
+    const wxPoint edge =
+        lines->ScreenToClient(list.ClientToScreen(wxPoint(place.x, below ? place.GetBottom() + 1 : place.y)));
+    const int thickness = list.FromDIP(Thickness);
+    mark->SetSize(0, std::max(0, edge.y - thickness / 2), lines->GetClientSize().x, thickness);
+    mark->Show();
+}
 
 #endif
 

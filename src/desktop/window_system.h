@@ -37,6 +37,16 @@ void ActivateByClick(wxDataViewCtrl& list);
 // Lets a list whose columns have fixed widths lay out only the lines in sight, all as high as the first.
 void LevelLines(wxDataViewCtrl& list);
 
+// Lets the handlers of the list's lines have the left button before the list itself: its press, what the mouse
+// does until the release, and that.
+void PassPresses(wxDataViewCtrl& list);
+
+// Keeps what the mouse does, with its button down, with the list's lines wherever it goes; or no longer.
+void HoldMouse(wxDataViewCtrl& list, bool hold);
+
+// Marks an edge of a line, as the place for what is dropped there, and no other; -1: none.
+void MarkEdge(wxDataViewCtrl& list, int line, bool below);
+
 #ifdef __WXGTK__
 // By which the system makes pixels of a font's points; higher where the user wants larger letters.
 double DotsPerInch();

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include <wx/event.h>
+#include <wx/timer.h>
+
+#include "desktop/line_list.h"
+
+namespace tarvex {
+
+// Lets the user drag the selected lines of a list to another place in it. A mark shows where they would go,
+// the list scrolls at its edges, Escape and a drop beside the list leave it as it is.
+class LineDrag {
+  public:
+    struct Acts {
+        std::function<void(int line)> clicked;      // one of several selected lines was, by itself
+        std::function<std::vector<int>()> dragged;  // the lines that go
+        std::function<void(int before)> dropped;    // in front of that line, or behind the last
+    };
+
+    LineDrag(LineList& list, Acts acts);
+    LineDrag(const LineDrag&) = delete;
+    LineDrag& operator=(const LineDrag&) = delete;
+
+    // Whether the key was for the drag.
+    bool TakesKey(const wxKeyEvent& event);
+
+  private:
+    void OnPress(wxMouseEvent& event);
+    void OnMotion(wxMouseEvent& event);
+    void OnRelease(wxMouseEvent& event);
+    void Begin();
+    void End();
+    // Where the mouse is: shows the mark there, and scrolls.
+    void Follow();
+    void Scroll();
+
+    LineList& list_;
+    Acts acts_;
+    wxPoint pressedAt_;               // on the screen
+    int pressed_ = LineList::NoLine;  // the line under the button that is down
+    bool kept_ = false;               // the press was kept from the list
+    bool dragging_ = false;
+    int gap_ = LineList::NoLine;  // where a drop would go; none beside the list
+    wxTimer scroll_;
+};
+
+}  // namespace tarvex
