@@ -34,8 +34,12 @@ LineDrag::LineDrag(LineList& list, Acts acts) : list_(list), acts_(std::move(act
     scroll_.Bind(wxEVT_TIMER, [this](wxTimerEvent&) { Scroll(); });
 }
 
+wxPoint LineDrag::PlaceOf(const wxMouseEvent& event) const {
+    return list_.GetMainWindow()->ClientToScreen(event.GetPosition());
+}
+
 void LineDrag::OnPress(wxMouseEvent& event) {
-    pressedAt_ = wxGetMousePosition();
+    pressedAt_ = PlaceOf(event);
     pressed_ = list_.LineAt(pressedAt_);
     const std::vector<int> lines = list_.Selected();
     const bool selected = std::binary_search(lines.begin(), lines.end(), pressed_);
@@ -48,16 +52,17 @@ void LineDrag::OnPress(wxMouseEvent& event) {
 void LineDrag::OnMotion(wxMouseEvent& event) {
     event.Skip();
     if (pressed_ == LineList::NoLine || !event.LeftIsDown()) return;
-    if (!dragging_ && IsDrag(wxGetMousePosition() - pressedAt_)) Begin();
+    if (!dragging_ && IsDrag(PlaceOf(event) - pressedAt_)) Begin();
     if (!dragging_) return;
     event.Skip(false);
-    Follow();
+    Follow(PlaceOf(event));
 }
 
 void LineDrag::OnRelease(wxMouseEvent& event) {
     const int line = std::exchange(pressed_, LineList::NoLine);
     event.Skip(!dragging_ && !kept_);
     if (dragging_) {
+        Follow(PlaceOf(event));
         const int gap = gap_;
         End();
         if (gap != LineList::NoLine) acts_.dropped(gap);
@@ -96,8 +101,7 @@ void LineDrag::End() {
     list_.GetMainWindow()->SetCursor(wxNullCursor);
 }
 
-void LineDrag::Follow() {
-    const wxPoint mouse = wxGetMousePosition();
+void LineDrag::Follow(const wxPoint& mouse) {
     const int gap = list_.GetScreenRect().Contains(mouse) ? list_.GapAt(mouse) : LineList::NoLine;
     if (std::exchange(gap_, gap) != gap) list_.MarkGap(gap);
 }
@@ -106,12 +110,12 @@ void LineDrag::Scroll() {
     const int first = list_.LineOf(list_.GetTopItem());
     if (first == LineList::NoLine) return;
     const int last = std::min(first + list_.GetCountPerPage(), list_.Count()) - 1;
-    const int y = wxGetMousePosition().y;
+    const wxPoint mouse = wxGetMousePosition();
     const int height = list_.GetCharHeight();
     const wxRect room = list_.GetScreenRect();
-    if (y > room.GetBottom() - height && last + 1 < list_.Count()) list_.Show(last + 1);
-    if (y < room.GetTop() + 2 * height && first > 0) list_.Show(first - 1);
-    Follow();
+    if (mouse.y > room.GetBottom() - height && last + 1 < list_.Count()) list_.Show(last + 1);
+    if (mouse.y < room.GetTop() + 2 * height && first > 0) list_.Show(first - 1);
+    Follow(mouse);
 }
 
 }  // namespace tarvex

@@ -33,9 +33,9 @@ class LineDrag {
     void OnRelease(wxMouseEvent& event);
     void Begin();
     void End();
-    // Where the mouse is: shows the mark there, and scrolls.
-    void Follow();
-    void Scroll();
+    void Follow(const wxPoint& mouse);  // with the mark; places are on the screen
+    void Scroll();                      // where the mouse is at an edge
+    wxPoint PlaceOf(const wxMouseEvent& event) const;
 
     LineList& list_;
     Acts acts_;

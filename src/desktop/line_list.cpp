@@ -16,6 +16,13 @@ class LineList::Model final : public wxDataViewVirtualListModel {
         icon_ = std::move(icon);
         Reset(count);
     }
+    // The list stays where it was scrolled to.
+    void Change(unsigned count, TextOfCell text) {
+        text_ = std::move(text);
+        while (GetCount() > count) RowDeleted(GetCount() - 1);
+        for (unsigned line = 0; line < GetCount(); ++line) RowChanged(line);
+        while (GetCount() < count) RowAppended();
+    }
 
     unsigned GetColumnCount() const override { return columns_; }
     wxString GetColumnType(unsigned) const override {
@@ -80,7 +87,7 @@ void LineList::Put(unsigned count, TextOfLine text, IconOfLine icon) {
 }
 
 void LineList::Put(unsigned count, TextOfCell text) {
-    model_->Put(count, std::move(text), {});
+    model_->Change(count, std::move(text));
 }
 
 int LineList::LineOf(const wxDataViewItem& item) const {
@@ -120,7 +127,9 @@ void LineList::SelectLines(const std::vector<int>& lines, int cursor) {
     if (cursor != NoLine) SetCurrentItem(ItemOf(cursor));
     UnselectAll();
     for (const int line : lines) Select(ItemOf(line));
-    if (cursor != NoLine) Show(cursor);
+    if (cursor == NoLine) return;
+    Show(cursor == lines.front() ? lines.back() : lines.front());
+    Show(cursor);
 }
 
 int LineList::LineAt(const wxPoint& place) {

@@ -26,6 +26,7 @@ class LineList final : public wxDataViewCtrl {
     using IconOfLine = std::function<wxBitmapBundle(unsigned)>;
     void Put(unsigned count, TextOfLine text, IconOfLine icon = {});
 
+    // Leaves the list where it was scrolled to. On the way the list may ask for lines that have gone.
     void Put(unsigned count, TextOfCell text);
     // Of a list without icons and columns, which does not measure its lines: the most that a line has.
     void MakeRoomFor(std::size_t characters);

@@ -112,7 +112,7 @@ void ColumnListBinder::ToWidget() {
     if (shown_ != list_.Lines()) {
         shown_ = list_.Lines();
         widget_.Put(static_cast<unsigned>(shown_.size()), [this](unsigned line, unsigned column) {
-            return Shown(list_.Cells(static_cast<int>(line))[column]);
+            return line < shown_.size() ? Shown(list_.Cells(static_cast<int>(line))[column]) : wxString();
         });
     }
     widget_.SelectLines(list_.Selected(), list_.ListIndex());

@@ -61,6 +61,9 @@ gboolean PresentMapped(GtkWidget* window, GdkEvent*, gpointer) {
 gboolean PassPress(GtkWidget*, GdkEvent* event, gpointer list) {
     GdkModifierType keys{};
     guint button = 0;
+    double x = 0;
+    double y = 0;
+    gdk_event_get_root_coords(event, &x, &y);
     gdk_event_get_state(event, &keys);
     gdk_event_get_button(event, &button);
     wxMouseEvent passed;
@@ -79,6 +82,7 @@ gboolean PassPress(GtkWidget*, GdkEvent* event, gpointer list) {
     passed.SetAltDown((keys & GDK_MOD1_MASK) != 0);
     auto* window = static_cast<wxDataViewCtrl*>(list);
     passed.SetEventObject(window);
+    passed.SetPosition(window->ScreenToClient(wxPoint(static_cast<int>(x), static_cast<int>(y))));
     return window->HandleWindowEvent(passed) ? GDK_EVENT_STOP : GDK_EVENT_PROPAGATE;
 }
 

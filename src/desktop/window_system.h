@@ -37,8 +37,8 @@ void ActivateByClick(wxDataViewCtrl& list);
 // Lets a list whose columns have fixed widths lay out only the lines in sight, all as high as the first.
 void LevelLines(wxDataViewCtrl& list);
 
-// Lets the handlers of the list's lines have the left button before the list itself: its press, what the mouse
-// does until the release, and that.
+// Lets the handlers of the list's lines have the left button before the list itself: its press, what the
+// mouse does until the release, and that.
 void PassPresses(wxDataViewCtrl& list);
 
 // Keeps what the mouse does, with its button down, with the list's lines wherever it goes; or no longer.

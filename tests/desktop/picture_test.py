@@ -92,6 +92,38 @@ class Pictures(WindowTest):
         self.assertLess(moved, first)
         program.picture("draft")
 
+    def test_rows_go_together_by_keys_and_by_a_drag(self):
+        program, editor = self.edit()
+        editor.click_page("PictureTabs", "Legs")
+        names = lambda: editor.lines("LegsList")[1::8]  # noqa: E731
+        selected = lambda: [name for name in names() if editor.is_line_selected("LegsList", name)]  # noqa: E731
+        block = ["CIVET", "BREMR", "ARNES"]
+        editor.click_line("LegsList", "CIVET")
+        editor.expect(lambda name: editor.text(name).rstrip(), "FixNameText", "CIVET")
+        xdotool("keydown", "shift")
+        editor.click_line("LegsList", "ARNES")
+        xdotool("keyup", "shift")
+        editor.expect(editor.caption, "PictureLabel", "3 waypoints are selected.")
+        key("ctrl+Down", "ctrl+Down")
+        editor.expect(lambda _: names(), "moved", ["TRM", "FUELR", "BASET", *block])
+        self.assertEqual((selected(), editor.focused()), (block, "LegsList"))
+
+        place = lambda name: editor.middle(editor._line("LegsList", name))  # noqa: E731
+        for release in (("key", "Escape", "mouseup", 1), ("mouseup", 1)):
+            xdotool("mousemove", *place("BREMR"), "mousedown", 1, "mousemove", *place("FUELR"))
+            left, top = place("TRM")
+            xdotool("mousemove", left, top + 8, "mousemove", left, top - 6, "sleep", 0.1)
+            program.picture("block under way")
+            xdotool(*release)
+        editor.expect(lambda _: names(), "dropped", [*block, "TRM", "FUELR", "BASET"])
+        self.assertEqual(editor.caption("UndoCommand"), "Undo Move 3 waypoints")
+        editor.click_line("LegsList", "BREMR")
+        editor.expect(lambda _: selected(), "one line", ["BREMR"])
+        key("shift+Down", "Delete")
+        editor.expect(lambda _: names(), "left", ["CIVET", "TRM", "FUELR", "BASET"])
+        key("ctrl+z", "ctrl+z", "ctrl+z", "ctrl+z")
+        editor.expect(lambda _: names(), "of before", ["TRM", *block, "FUELR", "BASET"])
+
 
 if __name__ == "__main__":
     unittest.main()

@@ -206,6 +206,10 @@ class Window:
         """Clicks the line of a list that shows this text."""
         self._click_on(until(lambda: self._line(name, line), f'the line "{line}" of {name}'))
 
+    def click_page(self, name, page):
+        fits = lambda node: node.role() == "page tab" and node.caption() == page  # noqa: E731
+        self._click_on(until(lambda: self._first(fits), f"the page {page} of {name}"))
+
     def double_click(self, name):
         self._click_on(self.node(name), 2)
 
@@ -286,8 +290,13 @@ class Window:
 
     @staticmethod
     def _click_on(node, times=1):
+        xdotool("mousemove", *Window.middle(node), "click", "--repeat", times, "--delay", 80, 1)
+
+    @staticmethod
+    def middle(node):
+        """Of a node, on the screen."""
         left, top, width, height = until(lambda: (area := node.area())[2] > 0 and area, "a place on the screen")
-        xdotool("mousemove", left + width // 2, top + height // 2, "click", "--repeat", times, "--delay", 80, 1)
+        return left + width // 2, top + height // 2
 
 
 def keys(text):
