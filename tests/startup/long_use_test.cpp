@@ -58,7 +58,8 @@ std::string LineOf(const std::string& row) {
     return row.substr(0, row.rfind(": ", row.find('|')));
 }
 
-constexpr std::string_view Undoing[] = {"UndoCommand", "RedoCommand", "key CtrlZ", "key CtrlY"};
+constexpr std::string_view Undoing[] = {"UndoCommand", "RedoCommand", "key CtrlZ", "key CtrlY",
+                                        "key CtrlShiftZ"};
 
 // The rows may change at one place: one appended, taken out, altered, or two neighbours exchanged; only an
 // ARC appends more, and what undoes or redoes has a check of its own. A line stays what it is as long as its
