@@ -65,7 +65,7 @@ void LineDrag::OnRelease(wxMouseEvent& event) {
         Follow(PlaceOf(event));
         const int gap = gap_;
         End();
-        if (gap != LineList::NoLine) acts_.dropped(gap);
+        if (gap != LineList::NoLine) acts_.dropped(lines_, gap);
     } else if (std::exchange(kept_, false)) {
         acts_.clicked(line);
     }
@@ -79,8 +79,8 @@ bool LineDrag::TakesKey(const wxKeyEvent& event) {
 
 void LineDrag::Begin() {
     // The press may have been refused.
-    const std::vector<int> lines = acts_.dragged();
-    if (!std::binary_search(lines.begin(), lines.end(), pressed_)) {
+    lines_ = list_.Selected();
+    if (!std::binary_search(lines_.begin(), lines_.end(), pressed_)) {
         pressed_ = LineList::NoLine;
         return;
     }

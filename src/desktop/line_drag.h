@@ -15,9 +15,9 @@ namespace tarvex {
 class LineDrag {
   public:
     struct Acts {
-        std::function<void(int line)> clicked;      // one of several selected lines was, by itself
-        std::function<std::vector<int>()> dragged;  // the lines that go
-        std::function<void(int before)> dropped;    // in front of that line, or behind the last
+        std::function<void(int line)> clicked;  // one of several selected lines was, by itself
+        // These were dropped in front of line `before`, or behind the last.
+        std::function<void(const std::vector<int>& lines, int before)> dropped;
     };
 
     LineDrag(LineList& list, Acts acts);
@@ -42,6 +42,7 @@ class LineDrag {
     wxPoint pressedAt_;               // on the screen
     int pressed_ = LineList::NoLine;  // the line under the button that is down
     bool kept_ = false;               // the press was kept from the list
+    std::vector<int> lines_;          // under way
     bool dragging_ = false;
     int gap_ = LineList::NoLine;  // where a drop would go; none beside the list
     wxTimer scroll_;

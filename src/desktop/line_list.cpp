@@ -135,7 +135,7 @@ void LineList::SelectLines(const std::vector<int>& lines, int cursor) {
 int LineList::LineAt(const wxPoint& place) {
     wxDataViewItem item;
     wxDataViewColumn* column = nullptr;
-    HitTest(GetMainWindow()->ScreenToClient(place), item, column);
+    HitTest(ScreenToClient(place), item, column);
     const int line = LineOf(item);
     return line < Count() ? line : NoLine;
 }

@@ -64,16 +64,12 @@ ColumnListBinder::ColumnListBinder(NativeForm& window, ColumnList& list, LineLis
     widget.Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, [this](wxDataViewEvent&) { ToDoor(); });
     widget.Bind(wxEVT_CHAR_HOOK, &ColumnListBinder::OnKey, this);
     if (!list.OnMove) return;
-    drag_.emplace(widget, LineDrag::Acts{
-                              .clicked = [this](int line) { PickAlone(line); },
-                              .dragged = [this] { return list_.Selected(); },
-                              .dropped =
-                                  [this](int before) {
-                                      Post([this, before](UserDoor& door) {
-                                          return before <= list_.ListCount() && door.MoveLines(list_, before);
-                                      });
-                                  },
-                          });
+    const auto drop = [this](const std::vector<int>& lines, int before) {
+        Post([this, lines, before](UserDoor& door) {
+            return lines == list_.Selected() && door.MoveLines(list_, before);
+        });
+    };
+    drag_.emplace(widget, LineDrag::Acts{[this](int line) { PickAlone(line); }, drop});
 }
 
 void ColumnListBinder::PickAlone(int line) {

@@ -37,7 +37,7 @@ std::vector<int> MovedByOne(const std::vector<int>& block, int by, int count) {
         if (row == border) {
             border -= by;
         } else {
-            std::swap(order[static_cast<std::size_t>(row)], order[static_cast<std::size_t>(row + by)]);
+            std::iter_swap(order.begin() + row, order.begin() + row + by);
         }
     }
     return order;
