@@ -26,7 +26,12 @@ class NoPictures : public PictureServices {
     double Width(const std::string&, double, bool) const override { return 0; }
     std::optional<std::string> AskForPlace(const std::string&) override { return std::nullopt; }
     std::string PngOf(const Drawing&) override { return {}; }
+};
+
+class NoClipboard : public Clipboard {
+  public:
     void Copy(const std::string&) override {}
+    std::string Text() override { return {}; }
 };
 
 class NoBrowser : public Browser {
@@ -43,8 +48,9 @@ struct Machine {
     std::unique_ptr<Clock> clock = MakeNativeClock();
     NoMessages messages;
     NoPictures pictures;
+    NoClipboard clipboard;
     NoBrowser browser;
-    Program program{{*files, *registry, *clock, messages, pictures, browser, SystemFolder()}};
+    Program program{{*files, *registry, *clock, messages, pictures, clipboard, browser, SystemFolder()}};
 
     Machine() {
         std::ofstream(root / "Tarvex.INI") << simulator.SimulatorPath() << "\r\nN\r\nW\r\nW\r\n";

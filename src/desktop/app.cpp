@@ -4,6 +4,7 @@
 
 #include "desktop/desktop.h"
 #include "desktop/native_browser.h"
+#include "desktop/native_clipboard.h"
 #include "desktop/native_message_box.h"
 #include "desktop/native_pictures.h"
 #include "toolkit/native_clock.h"
@@ -18,8 +19,10 @@ struct App::Run {
     std::unique_ptr<Clock> clock = MakeNativeClock();
     NativeMessageBox messages;
     NativePictures pictures;
+    NativeClipboard clipboard;
     NativeBrowser browser;
-    Program program{Platform{*files, *registry, *clock, messages, pictures, browser, NativeProgramFolder()}};
+    Program program{
+        Platform{*files, *registry, *clock, messages, pictures, clipboard, browser, NativeProgramFolder()}};
     Desktop desktop{program};
 };
 

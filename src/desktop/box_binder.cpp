@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <wx/menu.h>
+
 #include "desktop/native_text.h"
 #include "desktop/theme.h"
 #include "desktop/window_system.h"
@@ -14,6 +16,8 @@ TextBoxBinder::TextBoxBinder(NativeForm& window, TextBox& box, wxTextCtrl& widge
         widget.SetToolTip(Shown(box.Tip()));
         DescribeForAccess(widget, Shown(box.Tip()));
     }
+    box.OnRefused = [] { wxBell(); };
+    if (!box.Menu.empty()) widget.Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent&) { PopUpMenu(); });
     widget.Bind(wxEVT_TEXT, [this](wxCommandEvent&) { ToDoor(); });
     widget.Bind(wxEVT_LEFT_UP, [this](wxMouseEvent& event) {
         event.Skip();
@@ -35,6 +39,43 @@ void TextBoxBinder::ToDoor() {
     });
 }
 
+// The usual entries of a box, and its own.
+void TextBoxBinder::PopUpMenu() {
+    constexpr int Own = 1;  // the number of the first
+    wxMenu menu;
+    menu.Append(wxID_UNDO)->Enable(box_.CanUndoTyping());
+    menu.AppendSeparator();
+    menu.Append(wxID_CUT)->Enable(widget_.CanCut());
+    menu.Append(wxID_COPY)->Enable(widget_.CanCopy());
+    menu.Append(wxID_PASTE)->Enable(widget_.CanPaste());
+    menu.Append(wxID_DELETE)->Enable(widget_.HasSelection());
+    menu.AppendSeparator();
+    menu.Append(wxID_SELECTALL)->Enable(!widget_.IsEmpty());
+    menu.AppendSeparator();
+    for (int i = 0; const MenuEntry& entry : box_.Menu) {
+        menu.Append(Own + i++, Shown(entry.caption))->Enable(entry.enabled);
+    }
+    const int chosen = widget_.GetPopupMenuSelectionFromUser(menu);
+    switch (chosen) {
+        case wxID_NONE:
+            return;
+        case wxID_UNDO:
+            return Post([this](UserDoor& door) { return door.Key(box_.Owner(), ShortcutKey::CtrlZ); });
+        case wxID_CUT:
+            return widget_.Cut();
+        case wxID_COPY:
+            return widget_.Copy();
+        case wxID_PASTE:
+            return widget_.Paste();
+        case wxID_DELETE:
+            return RemoveSelection();
+        case wxID_SELECTALL:
+            return widget_.SelectAll();
+        default:
+            Post([this, chosen](UserDoor& door) { return door.PickMenuEntry(box_, chosen - Own); });
+    }
+}
+
 void TextBoxBinder::ToWidget() {
     const wxString text = Shown(box_.Text());
     if (widget_.GetValue() != text) PutText(text);
@@ -44,6 +85,12 @@ void TextBoxBinder::ToWidget() {
         PutBackground();
     }
     Binder::ToWidget();
+}
+
+void TextBoxBinder::RemoveSelection() {
+    long from = 0, to = 0;
+    widget_.GetSelection(&from, &to);
+    widget_.Remove(from, to);
 }
 
 void TextBoxBinder::PutBackground() {

@@ -16,6 +16,8 @@ class TextBoxBinder final : public Binder {
 
   private:
     void ToDoor();
+    void PopUpMenu();
+    void RemoveSelection();
     void PutText(const wxString& text);
     // Behind the last character that can be seen.
     long EndOfWords() const;

@@ -32,6 +32,8 @@ constexpr KeyOfShortcut ShortcutKeys[] = {
     {'S', wxMOD_CONTROL, ShortcutKey::CtrlS},
     {'Y', wxMOD_CONTROL, ShortcutKey::CtrlY},
     {'Z', wxMOD_CONTROL, ShortcutKey::CtrlZ},
+    {'C', wxMOD_CONTROL | wxMOD_SHIFT, ShortcutKey::CtrlShiftC},
+    {'V', wxMOD_CONTROL | wxMOD_SHIFT, ShortcutKey::CtrlShiftV},
     {'Z', wxMOD_CONTROL | wxMOD_SHIFT, ShortcutKey::CtrlShiftZ},
     {'1', wxMOD_CONTROL, ShortcutKey::Ctrl1},
     {'2', wxMOD_CONTROL, ShortcutKey::Ctrl2},

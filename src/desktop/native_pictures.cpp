@@ -5,8 +5,6 @@
 #include <cmath>
 #include <memory>
 
-#include <wx/clipbrd.h>
-#include <wx/dataobj.h>
 #include <wx/filedlg.h>
 #include <wx/filename.h>
 #include <wx/image.h>
@@ -73,13 +71,6 @@ std::string NativePictures::PngOf(const Drawing& drawing) {
     std::string bytes(stream.GetSize(), '\0');
     stream.CopyTo(bytes.data(), bytes.size());
     return bytes;
-}
-
-void NativePictures::Copy(const std::string& text) {
-    const wxClipboardLocker clipboard;
-    if (!clipboard) return;
-    wxTheClipboard->SetData(new wxTextDataObject(wxString::FromUTF8(text)));
-    wxTheClipboard->Flush();
 }
 
 }  // namespace tarvex

@@ -17,7 +17,6 @@ class NativePictures final : public PictureServices {
     }
     std::optional<std::string> AskForPlace(const std::string& name) override;
     std::string PngOf(const Drawing& drawing) override;
-    void Copy(const std::string& text) override;
 
   private:
     PictureFonts fonts_;

@@ -136,6 +136,11 @@ class ModifyProcedure : public Form, private RowsObserver {
     void AtAboveAtBelowOption_Click();
     void RwySpecificCheck_Click();
 
+    // A whole position from the clipboard into the boxes, and the one that they hold onto it, as a text that
+    // people read (modify_procedure_position.cpp).
+    void PastePosition();
+    void CopyPosition();
+
     // The boxes as the row that Add would make of them. Its decimals are those of the last search whatever
     // the boxes hold: degrees and minutes are the current form.
     WaypointRecord BoxesAsRow() const;
@@ -179,6 +184,10 @@ class ModifyProcedure : public Form, private RowsObserver {
   private:
     // Connects the events of the controls with the operations.
     void Connect();
+
+    void ConnectPositions();
+    // False for a text that is no position, behind which nothing has changed.
+    bool TakePosition(std::string_view text);
 
     void RowsChanged(const ProcedureRows::Change& change) override;
 

@@ -69,6 +69,7 @@ void ModifyProcedure::Connect() {
          {AirspeedText, "Airspeed: knots"}});
     AirspeedText.OnChange = run(&Self::AirspeedText_Change);
     RwySpecificCheck.OnClick = run(&Self::RwySpecificCheck_Click);
+    ConnectPositions();
     WaypointList.OnClick = run(&Self::WaypointList_Click);
 }
 
@@ -92,6 +93,8 @@ std::vector<Shortcut> ModifyProcedure::Shortcuts() {
         {CtrlZ, nullptr, &UndoCommand},
         {CtrlY, nullptr, &RedoCommand},
         {CtrlShiftZ, nullptr, &RedoCommand},
+        {CtrlShiftV, nullptr, nullptr, [this] { PastePosition(); }},
+        {CtrlShiftC, nullptr, nullptr, [this] { CopyPosition(); }},
         {CtrlL, nullptr, nullptr, [this] { WaypointList.SetFocus(); }},
         {Ctrl1, nullptr, nullptr, page(0)},
         {Ctrl2, nullptr, nullptr, page(1)},

@@ -7,6 +7,7 @@
 #include "chart/target_words.h"
 #include "editor/editor_messages.h"
 #include "editor/modify_procedure.h"
+#include "geometry/position_text.h"
 #include "geometry/text_rules.h"
 #include "procedure/procedure_mode.h"
 #include "startup/workplace.h"
@@ -73,7 +74,7 @@ void ProcedurePicture::ConnectRest() {
     LegsList.OnCopy = [this] {
         const std::vector<int> rows = LegsList.Selected();
         const bool all = rows.size() < 2;
-        workplace_.platform.pictures.Copy(LegsText(route_, all ? std::vector<int>() : rows));
+        workplace_.platform.clipboard.Copy(LegsText(route_, all ? std::vector<int>() : rows));
     };
     PictureTabs.OnClick = [this] { pointed_ = {}; };
     ZoomInCommand.OnClick = [this] { Zoom(1); };
@@ -139,7 +140,7 @@ std::vector<MenuEntry> ProcedurePicture::MenuFor(const Target& target) {
             {"Centre of an ARC", hit && navaid, [this, hit] { editor_.CenterArcOn(*hit); }},
             {"Start of a Derived Waypoint", hit.has_value(), [this, hit] { editor_.DeriveFrom(*hit); }},
             {"Copy Position", position.has_value(),
-             [this, position] { workplace_.platform.pictures.Copy(PositionWords(*position)); }}};
+             [this, position] { workplace_.platform.clipboard.Copy(PositionText(*position)); }}};
 }
 
 Drawing ProcedurePicture::Sheet() const {

@@ -4,301 +4,222 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
-#include <iterator>
-#include <span>
 #include <utility>
 #include <vector>
-
-#include "geometry/coordinate_rules.h"
-#include "toolkit/characters.h"
 
 namespace tarvex {
 
 namespace {
 
-constexpr std::size_t LongestText = 200;
-constexpr std::string_view Digits = "0123456789";
-constexpr std::string_view NumberCharacters = "0123456789.";
-constexpr std::string_view Letters = "NSEW";
-constexpr std::string_view Signs = "+-";
-constexpr std::string_view Separators = ",;/";
+constexpr std::size_t MostLength = 100;  // of a text that can be a position at all
+constexpr char DegreeSign = 'd';
 
-// Kinds of a token beside the letters, the signs and the marks, which stand for themselves.
-constexpr char Number = '0';
-constexpr char Colon = ':';
-constexpr char Hyphen = '~';  // between digits
-constexpr char Separator = '|';
-// Of degrees, minutes and seconds.
-constexpr std::string_view Marks = "o'\"";
-
-bool IsOneOf(char character, std::string_view characters) {
-    return characters.find(character) != std::string_view::npos;
-}
-
-constexpr std::pair<char32_t, char> OtherCharacters[] = {
-    {U'°', 'o'},  {U'º', 'o'},      {U'˚', 'o'},      {U'’', '\''}, {U'‘', '\''}, {U'′', '\''},
-    {U'´', '\''}, {U'”', '"'},      {U'“', '"'},      {U'″', '"'},  {U'−', '-'},  {U'\u00A0', ' '},
-    {U'\t', ' '}, {U'\u2009', ' '}, {U'\u202F', ' '}, {U'\r', ' '}, {U'\n', ' '}, {U'n', 'N'},
-    {U's', 'S'},  {U'e', 'E'},      {U'w', 'W'},
-};
-
-std::optional<char> PlainCharacter(char32_t character) {
-    constexpr std::string_view Own = "0123456789.,;/:+-NSEW'\" ";
-    if (character < 0x80 && IsOneOf(static_cast<char>(character), Own)) return static_cast<char>(character);
-    const auto* other = std::ranges::find(OtherCharacters, character, &std::pair<char32_t, char>::first);
-    if (other == std::end(OtherCharacters)) return std::nullopt;
-    return other->second;
-}
-
-// The text in the few characters that positions are written in; nothing if it has another.
-std::optional<std::string> PlainText(std::string_view text) {
-    std::string plain;
+// The signs of degrees, minutes and seconds in one form each, letters in upper case, all blanks the same.
+std::string Simplified(std::string_view text) {
+    constexpr std::pair<std::string_view, std::string_view> forms[] = {{"\xC2\xB0", "d"},
+                                                                       {"\xC2\xBA", "d"},
+                                                                       {"\xE2\x80\xB2", "'"},
+                                                                       {"\xE2\x80\x99", "'"},
+                                                                       {"\xE2\x80\xB3", "\""},
+                                                                       {"\xE2\x80\x9D", "\""},
+                                                                       {"''", "\""},
+                                                                       {"\xE2\x88\x92", "-"},
+                                                                       {"\xC2\xA0", " "},
+                                                                       {"\t", " "},
+                                                                       {"\r", " "},
+                                                                       {"\n", " "},
+                                                                       {"n", "N"},
+                                                                       {"s", "S"},
+                                                                       {"e", "E"},
+                                                                       {"w", "W"}};
+    std::string simple;
     while (!text.empty()) {
-        auto [character, bytes] = Utf8CharacterAt(text);
-        if (bytes == 0) {
-            character = static_cast<unsigned char>(text.front());
-            bytes = 1;
-            if (character >= 0x80) return std::nullopt;
-        }
-        const auto known = PlainCharacter(character);
-        if (!known) return std::nullopt;
-        if (*known == '\'' && plain.ends_with('\'')) {
-            plain.back() = '"';
-        } else {
-            plain += *known;
-        }
-        text.remove_prefix(bytes);
+        const auto form = std::find_if(std::begin(forms), std::end(forms),
+                                       [text](const auto& entry) { return text.starts_with(entry.first); });
+        const bool known = form != std::end(forms);
+        simple += known ? form->second : text.substr(0, 1);
+        text.remove_prefix(known ? form->first.size() : 1);
     }
-    return plain;
+    return simple;
 }
 
-bool IsBetweenDigits(std::string_view text, std::size_t index) {
-    return index > 0 && index + 1 < text.size() && IsOneOf(text[index - 1], Digits) &&
-           IsOneOf(text[index + 1], Digits);
+std::string_view Stripped(std::string_view text, std::string_view characters) {
+    const std::size_t first = text.find_first_not_of(characters);
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(characters) - first + 1);
 }
 
-struct Token {
-    char kind;
-    std::string_view digits;  // of a number, with at most one point
-    bool apart;               // blanks stand in front
-};
-using Tokens = std::span<const Token>;
-
-// Nothing if a number has no digit, or two points.
-std::optional<std::vector<Token>> TokensOf(std::string_view plain) {
-    std::vector<Token> tokens;
-    bool apart = false;
-    for (std::size_t i = 0; i < plain.size(); ++i) {
-        const char character = plain[i];
-        if (character == ' ') {
-            apart = true;
-            continue;
-        }
-        Token token{character, {}, std::exchange(apart, false)};
-        if (IsOneOf(character, NumberCharacters)) {
-            const std::size_t end = std::min(plain.find_first_not_of(NumberCharacters, i), plain.size());
-            token.kind = Number;
-            token.digits = plain.substr(i, end - i);
-            const auto points = std::ranges::count(token.digits, '.');
-            if (points > 1 || token.digits == ".") return std::nullopt;
-            i = end - 1;
-        } else if (IsOneOf(character, Separators)) {
-            token.kind = Separator;
-        } else if (character == '-' && IsBetweenDigits(plain, i)) {
-            token.kind = Hyphen;
-        }
-        tokens.push_back(token);
-    }
-    return tokens;
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
 }
 
-std::vector<std::size_t> PlacesOf(Tokens tokens, std::string_view kinds) {
-    std::vector<std::size_t> places;
-    for (std::size_t i = 0; i < tokens.size(); ++i) {
-        if (IsOneOf(tokens[i].kind, kinds)) places.push_back(i);
-    }
-    return places;
-}
-
-// Where the first axis ends and the second begins; nothing if nothing tells.
-std::optional<std::pair<std::size_t, std::size_t>> BorderOf(Tokens tokens) {
-    const auto before = [](std::size_t place) { return std::optional(std::pair(place, place)); };
-    if (const auto places = PlacesOf(tokens, {&Separator, 1}); !places.empty()) {
-        if (places.size() > 1) return std::nullopt;
-        return std::pair(places[0], places[0] + 1);
-    }
-    if (const auto places = PlacesOf(tokens, Letters); !places.empty()) {
-        if (places.size() != 2) return std::nullopt;
-        return before(places[0] == 0 ? places[1] : places[0] + 1);
-    }
-    if (const auto places = PlacesOf(tokens, Signs); !places.empty() && places.back() > 0) {
-        return before(places.back());
-    }
-    if (const auto places = PlacesOf(tokens, Marks.substr(0, 1)); places.size() == 2) {
-        return before(places[1] - 1);
-    }
-    const auto numbers = PlacesOf(tokens, {&Number, 1});
-    if (numbers.empty() || numbers.size() % 2 != 0) return std::nullopt;
-    return before(numbers[numbers.size() / 2]);
-}
-
-// One axis as it is written.
-struct Entry {
-    char hemisphere = 0;  // a letter or a sign; 0 for neither
-    bool letterInFront = false;
-    std::array<std::string, 3> parts;
-    std::size_t count = 0;
-    bool marked = false;
-    bool hyphens = false;
-    std::size_t packed = 0;  // digits in a row behind those of the degrees
-
-    bool HasLetter() const { return IsOneOf(hemisphere, Letters); }
+// One axis: what stands for it in the text, and the letter that goes with it; 0 for none.
+struct Half {
+    std::string_view text;
+    char letter = 0;
 };
 
-// Takes the letter or the sign off the tokens; false if there are several.
-bool TakeHemisphere(Tokens& tokens, Entry& entry) {
-    if (tokens.empty()) return false;
-    if (IsOneOf(tokens.front().kind, Letters) || IsOneOf(tokens.front().kind, Signs)) {
-        entry.hemisphere = tokens.front().kind;
-        entry.letterInFront = entry.HasLetter();
-        tokens = tokens.subspan(1);
-        if (tokens.empty() || (!entry.letterInFront && tokens.front().apart)) return false;
+// A magnitude as its numbers stand: degrees, minutes, seconds.
+std::optional<double> Joined(const std::vector<double>& numbers) {
+    double degrees = 0;
+    for (std::size_t i = numbers.size(); i-- > 0;) {
+        if (i > 0 && numbers[i] >= 60) return std::nullopt;
+        degrees = degrees / 60 + numbers[i];
     }
-    if (!IsOneOf(tokens.back().kind, Letters)) return true;
-    if (entry.hemisphere != 0) return false;
-    entry.hemisphere = tokens.back().kind;
-    tokens = tokens.first(tokens.size() - 1);
-    return true;
+    return degrees;
 }
 
-bool TakeParts(Tokens tokens, Entry& entry) {
-    bool more = true;
-    while (!tokens.empty() || more) {
-        if (tokens.empty() || tokens.front().kind != Number || entry.count == entry.parts.size())
-            return false;
-        entry.parts[entry.count] = tokens.front().digits;
-        tokens = tokens.subspan(1);
-        more = !tokens.empty() && (tokens.front().kind == Colon || tokens.front().kind == Hyphen);
-        const bool mark = !tokens.empty() && tokens.front().kind == Marks[entry.count];
-        if (more && tokens.front().kind == Hyphen) entry.hyphens = true;
-        entry.marked = entry.marked || mark;
-        if (more || mark) tokens = tokens.subspan(1);
-        ++entry.count;
-    }
-    return true;
-}
-
-std::size_t WholeDigits(std::string_view part) {
-    return std::min(part.find('.'), part.size());
-}
-
-// Parts the digits that stand in a row behind a letter, or in front of one.
-bool Unpack(Entry& entry, std::size_t degreeDigits) {
-    const std::string row = entry.parts[0];
-    const std::size_t whole = WholeDigits(row);
-    if (entry.count > 1 || entry.marked || !entry.HasLetter() || whole <= degreeDigits) return true;
-    entry.packed = whole - degreeDigits;
-    const bool hundredths = entry.packed == 6;
-    if (entry.packed != 2 && entry.packed != 4 && !hundredths) return false;
-    if (hundredths && (!entry.letterInFront || whole < row.size())) return false;
-    entry.count = entry.packed == 2 ? 2 : 3;
-    entry.parts[0] = row.substr(0, degreeDigits);
-    entry.parts[1] = row.substr(degreeDigits, entry.count == 2 ? std::string::npos : 2);
-    if (entry.count == 3) entry.parts[2] = row.substr(degreeDigits + 2);
-    if (hundredths) entry.parts[2].insert(2, ".");
-    return true;
-}
-
-// Nothing for more digits than the axis has, a fraction in front of the last part, 60 minutes or seconds, or
-// more degrees than there are.
-std::optional<double> MagnitudeOf(const Entry& entry, std::size_t degreeDigits, double mostDegrees) {
-    constexpr std::array<double, 3> PartsOfDegree = {1, 60, 3600};
-    double magnitude = 0;
-    for (std::size_t i = 0; i < entry.count; ++i) {
-        const std::string& part = entry.parts[i];
-        const std::size_t whole = WholeDigits(part);
-        if (whole > (i == 0 ? degreeDigits : 2) || (i + 1 < entry.count && whole < part.size())) {
-            return std::nullopt;
-        }
-        double number = 0;
-        std::from_chars(part.data(), part.data() + part.size(), number);
-        if (i > 0 && number >= 60) return std::nullopt;
-        magnitude += number / PartsOfDegree[i];
-    }
-    return magnitude <= mostDegrees ? std::optional(magnitude) : std::nullopt;
-}
-
-// An axis that was read.
-struct Coordinate {
-    bool latitude;
-    double degrees;  // north and east positive
-    Entry entry;
-};
-
-std::optional<Coordinate> ReadCoordinate(Tokens tokens, bool first) {
-    Entry entry;
-    if (!TakeHemisphere(tokens, entry) || !TakeParts(tokens, entry)) return std::nullopt;
-    if (entry.hyphens && !entry.HasLetter()) return std::nullopt;
-    const bool latitude = entry.HasLetter() ? IsOneOf(entry.hemisphere, "NS") : first;
-    const std::size_t degreeDigits = latitude ? 2 : 3;
-    if (!Unpack(entry, degreeDigits)) return std::nullopt;
-    const CoordinateAxis& axis = latitude ? LatitudeAxis : LongitudeAxis;
-    const auto magnitude = MagnitudeOf(entry, degreeDigits, axis.mostDegrees);
-    if (!magnitude) return std::nullopt;
-    const bool negative = *magnitude > 0 && IsOneOf(entry.hemisphere, "SW-");
-    return Coordinate{latitude, negative ? -*magnitude : *magnitude, entry};
-}
-
-bool AreOfOneForm(const Entry& a, const Entry& b) {
-    if (a.HasLetter() != b.HasLetter() || a.packed != b.packed) return false;
-    return a.HasLetter() || a.count == b.count;
-}
-
-std::optional<Position> PositionIn(std::string_view plain) {
-    const auto tokens = TokensOf(plain);
-    if (!tokens) return std::nullopt;
-    const auto border = BorderOf(*tokens);
-    if (!border) return std::nullopt;
-    const auto first = ReadCoordinate(Tokens(*tokens).first(border->first), true);
-    const auto second = ReadCoordinate(Tokens(*tokens).subspan(border->second), false);
-    if (!first || !second || first->latitude == second->latitude ||
-        !AreOfOneForm(first->entry, second->entry)) {
+// Numbers of digits alone: two for the degrees, three of a longitude, two for minutes and for seconds, two
+// for hundredths of these.
+std::optional<double> FromDigits(std::string_view digits, std::size_t degreeDigits) {
+    if (digits.size() < degreeDigits || (digits.size() - degreeDigits) % 2 != 0 ||
+        digits.size() > degreeDigits + 6 || !std::all_of(digits.begin(), digits.end(), IsDigit)) {
         return std::nullopt;
     }
-    return first->latitude ? Position{first->degrees, second->degrees}
-                           : Position{second->degrees, first->degrees};
-}
-
-std::string WithDecimalPoints(std::string text) {
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == ',' && IsBetweenDigits(text, i)) text[i] = '.';
+    std::vector<double> numbers = {0};
+    for (const char digit : digits.substr(0, degreeDigits)) numbers[0] = numbers[0] * 10 + (digit - '0');
+    for (std::size_t at = degreeDigits; at < digits.size(); at += 2) {
+        const double pair = (digits[at] - '0') * 10 + (digits[at + 1] - '0');
+        if (numbers.size() == 3) {
+            numbers.back() += pair / 100;
+        } else {
+            numbers.push_back(pair);
+        }
     }
-    return text;
+    return Joined(numbers);
 }
 
-std::string AxisText(double degrees, std::string_view letters, int degreeDigits) {
-    constexpr long Thousandths = 60000;  // of a minute, in a degree
-    const long all = std::lround(std::fabs(degrees) * Thousandths);
-    char text[32];
-    std::snprintf(text, sizeof text, "%c%0*ld %02ld.%03ld", letters[degrees < 0 && all > 0 ? 1 : 0],
-                  degreeDigits, all / Thousandths, all % Thousandths / 1000, all % 1000);
-    return text;
+// Numbers with what parts them: "33d56'33"", "33 56.5", "33:56:33".
+std::optional<double> FromNumbers(std::string_view text) {
+    constexpr std::array<char, 3> signs = {DegreeSign, '\'', '"'};
+    std::vector<double> numbers;
+    bool fraction = false;
+    while (!text.empty()) {
+        if (numbers.size() == signs.size() || fraction) return std::nullopt;
+        const std::size_t length = std::min(text.find_first_not_of("0123456789."), text.size());
+        double number = 0;
+        const auto read =
+            std::from_chars(text.data(), text.data() + length, number, std::chars_format::fixed);
+        if (read.ec != std::errc() || read.ptr != text.data() + length || text[0] == '.') return std::nullopt;
+        fraction = text.substr(0, length).find('.') != std::string_view::npos;
+        text = text.substr(length);
+        const std::string_view rest = Stripped(text, " ");
+        const bool apart = rest.size() < text.size() || rest.empty();
+        text = rest;
+        if (!text.empty() && (text[0] == signs[numbers.size()] || (text[0] == ':' && text.size() > 1))) {
+            text = Stripped(text.substr(1), " ");
+        } else if (!apart) {
+            return std::nullopt;
+        }
+        numbers.push_back(number);
+    }
+    return numbers.empty() ? std::nullopt : Joined(numbers);
+}
+
+std::optional<double> ReadHalf(Half half, bool latitude) {
+    std::string_view text = Stripped(half.text, " ");
+    const bool sign = !text.empty() && (text[0] == '-' || text[0] == '+');
+    if (sign && half.letter != 0) return std::nullopt;
+    const bool negative = half.letter == 'S' || half.letter == 'W' || (sign && text[0] == '-');
+    if (sign) text.remove_prefix(1);
+    std::string pointed(text);
+    // A comma that was left here is none that parts.
+    if (std::count(pointed.begin(), pointed.end(), ',') == 1) {
+        const std::size_t comma = pointed.find(',');
+        if (comma == 0 || comma + 1 == pointed.size() || !IsDigit(pointed[comma - 1]) ||
+            !IsDigit(pointed[comma + 1])) {
+            return std::nullopt;
+        }
+        pointed[comma] = '.';
+    }
+    const std::size_t degreeDigits = latitude ? 2 : 3;
+    const bool digits = half.letter != 0 && pointed.size() > degreeDigits &&
+                        std::all_of(pointed.begin(), pointed.end(), IsDigit);
+    const auto magnitude = digits ? FromDigits(pointed, degreeDigits) : FromNumbers(pointed);
+    if (!magnitude || *magnitude > (latitude ? 90 : 180)) return std::nullopt;
+    return negative ? -*magnitude : *magnitude;
+}
+
+using Halves = std::optional<std::pair<Half, Half>>;
+
+constexpr std::string_view Parting = " ,;/";
+
+Halves SplitByLetters(std::string_view text) {
+    constexpr std::string_view letters = "NSEW";
+    const std::size_t first = text.find_first_of(letters);
+    const std::size_t second = text.find_first_of(letters, first + 1);
+    if (second == std::string_view::npos ||
+        text.find_first_of(letters, second + 1) != std::string_view::npos) {
+        return std::nullopt;
+    }
+    if (first == 0) {
+        return {{{Stripped(text.substr(1, second - 1), Parting), text[first]},
+                 {Stripped(text.substr(second + 1), " "), text[second]}}};
+    }
+    if (second + 1 != text.size()) return std::nullopt;
+    return {{{Stripped(text.substr(0, first), " "), text[first]},
+             {Stripped(text.substr(first + 1, second - first - 1), Parting), text[second]}}};
+}
+
+// In the middle of the numbers, in front of the sign of the second.
+Halves SplitByNumbers(std::string_view text) {
+    std::vector<std::size_t> begins;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool within = i > 0 && (IsDigit(text[i - 1]) || text[i - 1] == '.' || text[i - 1] == ',');
+        if (IsDigit(text[i]) && !within) begins.push_back(i);
+    }
+    if (begins.size() < 2 || begins.size() % 2 != 0) return std::nullopt;
+    std::size_t middle = begins[begins.size() / 2];
+    if (text[middle - 1] == '-' || text[middle - 1] == '+') --middle;
+    if (text[middle - 1] != ' ') return std::nullopt;
+    return {{{text.substr(0, middle)}, {text.substr(middle)}}};
+}
+
+Halves Split(std::string_view text) {
+    if (text.find_first_of("NSEW") != std::string_view::npos) return SplitByLetters(text);
+    for (const char parting : {';', '/', ','}) {
+        const std::size_t at = text.find(parting);
+        if (at == std::string_view::npos) continue;
+        if (text.find(parting, at + 1) == std::string_view::npos) {
+            return {{{text.substr(0, at)}, {text.substr(at + 1)}}};
+        }
+    }
+    return SplitByNumbers(text);
+}
+
+std::string Digits(long number, std::size_t width) {
+    const std::string digits = std::to_string(number);
+    return std::string(width - std::min(width, digits.size()), '0') + digits;
+}
+
+std::string AxisText(double coordinate, char positive, char negative, std::size_t degreeDigits) {
+    const long thousandths = std::lround(std::fabs(coordinate) * 60'000);
+    return (coordinate < 0 && thousandths > 0 ? negative : positive) +
+           Digits(thousandths / 60'000, degreeDigits) + " " + Digits(thousandths % 60'000 / 1000, 2) + "." +
+           Digits(thousandths % 1000, 3);
 }
 
 }  // namespace
 
 std::optional<Position> ReadPosition(std::string_view text) {
-    if (text.size() > LongestText) return std::nullopt;
-    const auto plain = PlainText(text);
-    if (!plain) return std::nullopt;
-    const auto position = PositionIn(*plain);
-    if (position || plain->find('.') != std::string::npos) return position;
-    return PositionIn(WithDecimalPoints(*plain));
+    if (text.size() > MostLength) return std::nullopt;
+    const std::string simple = Simplified(text);
+    auto halves = Split(Stripped(simple, " "));
+    if (!halves) return std::nullopt;
+    const auto isLongitude = [](char letter) { return letter == 'E' || letter == 'W'; };
+    if (isLongitude(halves->first.letter)) std::swap(halves->first, halves->second);
+    if (isLongitude(halves->first.letter) ||
+        isLongitude(halves->second.letter) != (halves->first.letter != 0)) {
+        return std::nullopt;
+    }
+    const auto latitude = ReadHalf(halves->first, true);
+    const auto longitude = ReadHalf(halves->second, false);
+    if (!latitude || !longitude) return std::nullopt;
+    return Position{*latitude, *longitude};
 }
 
 std::string PositionText(const Position& position) {
-    return AxisText(position.latitude, "NS", 2) + " " + AxisText(position.longitude, "EW", 3);
+    return AxisText(position.latitude, 'N', 'S', 2) + " " + AxisText(position.longitude, 'E', 'W', 3);
 }
 
 }  // namespace tarvex

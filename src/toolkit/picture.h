@@ -7,15 +7,9 @@
 
 #include "toolkit/control.h"
 #include "toolkit/drawing.h"
+#include "toolkit/menu_entry.h"
 
 namespace tarvex {
-
-// An entry of a picture's menu.
-struct MenuEntry {
-    std::string caption;
-    bool enabled = true;
-    std::function<void()> onClick;
-};
 
 // A drawing that the user looks at and acts on. What is drawn, and what the acts mean, belongs to its form.
 class Picture : public Control {

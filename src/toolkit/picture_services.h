@@ -7,8 +7,8 @@
 
 namespace tarvex {
 
-// What pictures need of the machine: the letters of their words, a place to save them, a file format of
-// pixels, and the clipboard.
+// What pictures need of the machine: the letters of their words, a place to save them and a file format of
+// pixels.
 class PictureServices : public TextMeasure {
   public:
     // Asks the user where to save a picture; `name` is proposed, without folder or ending. The path is one of
@@ -19,9 +19,6 @@ class PictureServices : public TextMeasure {
     // The drawing in light colours as the bytes of a PNG file, two pixels to a unit. DeviceError (57) where
     // there is no memory for it.
     virtual std::string PngOf(const Drawing& drawing) = 0;
-
-    // Puts a text, in UTF-8, onto the clipboard.
-    virtual void Copy(const std::string& text) = 0;
 };
 
 }  // namespace tarvex

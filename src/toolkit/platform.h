@@ -3,6 +3,7 @@
 #include <string>
 
 #include "toolkit/browser.h"
+#include "toolkit/clipboard.h"
 #include "toolkit/clock.h"
 #include "toolkit/file_system.h"
 #include "toolkit/message_box.h"
@@ -18,6 +19,7 @@ struct Platform {
     Clock& clock;
     MessageBox& messages;
     PictureServices& pictures;
+    Clipboard& clipboard;
     Browser& browser;
     std::string programFolder;  // the folder that holds the executable, as a path of `files`
 };

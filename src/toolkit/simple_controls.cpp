@@ -44,6 +44,10 @@ void TextBox::Type(std::string_view text) {
     Put(text);
 }
 
+bool TextBox::CanUndoTyping() const {
+    return typing_ && text_ != typing_->before;
+}
+
 bool TextBox::UndoTyping() {
     if (!typing_ || text_ == typing_->before) return false;
     typing_->undone = text_;

@@ -5,8 +5,10 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "toolkit/control.h"
+#include "toolkit/menu_entry.h"
 
 namespace tarvex {
 
@@ -64,6 +66,7 @@ class TextBox : public Control {
     // False when there is nothing to undo, or to do again: for the one, when the text is what it was.
     bool UndoTyping();
     bool RedoTyping();
+    bool CanUndoTyping() const;
     int MaxLength() const { return maxLength_; }
     bool Locked() const { return locked_; }  // shown as usable, but takes no typing
     void SetLocked(bool locked);
@@ -76,6 +79,12 @@ class TextBox : public Control {
     void FocusGone() override { typing_.reset(); }
 
     std::function<void()> OnChange;
+    // Asked of what comes into the box at a stroke: whether it is taken otherwise than as typing.
+    std::function<bool(std::string_view)> OnPaste;
+    // Not all that was typed had room.
+    std::function<void()> OnRefused;
+    // What its menu has beside the usual entries.
+    std::vector<MenuEntry> Menu;
 
   private:
     struct Typing {

@@ -26,6 +26,7 @@ class UserDoor {
     // The user changed the text of the box to `text`. What was put in is cut where the text would pass the
     // box's limit; taking away is always free, also in a text longer than the limit. Blanks at the end give
     // way to what is put in front of them.
+    // What comes at a stroke, three characters or more, may mean something else to the box.
     bool Type(TextBox& box, std::string_view text);
     bool Press(Button& button);
     bool Pick(OptionButton& option);
@@ -55,6 +56,7 @@ class UserDoor {
     bool TakeAt(Picture& picture, Point point);  // double click; on nothing it fits the picture
     bool Take(Picture& picture, bool also);      // Enter, also with Ctrl: what was chosen before
     bool PickMenuEntry(Picture& picture, int index);
+    bool PickMenuEntry(TextBox& box, int index);
 
     bool MoveFocus(Control& control);
     bool Tab(Form& form, bool forward);  // the Tab key in a form

@@ -152,7 +152,7 @@ TEST_F(ProcedurePictureTest, AClickOnAWaypointIsAClickOnItsLine) {
     EXPECT_EQ(editor().FixNameText.Text(), "CHARLI    ");
     EXPECT_TRUE(pictures().LegsList.HasFocus());
     door().Copy(pictures().LegsList);
-    EXPECT_NE(services.pictures.copied.find("3\tCHARLI\t090\t"), std::string::npos);
+    EXPECT_NE(services.clipboard.text.find("3\tCHARLI\t090\t"), std::string::npos);
     EXPECT_EQ(pictures().PlanPicture.Sentence(), "Chart: 3 waypoints, 109.7 miles, from ALPHA to CHARLI");
 }
 
@@ -202,7 +202,7 @@ TEST_F(ProcedurePictureTest, TheMenuOpensTheToolsWithWhatWasChosen) {
     road.Do("Command1");
 
     EXPECT_TRUE(pick(Fix, 4));
-    EXPECT_EQ(services.pictures.copied, "N33°55.20' W118°06.06'");
+    EXPECT_EQ(services.clipboard.text, "N33 55.200 W118 06.060");
     EXPECT_TRUE(road.Rows().empty());
 }
 

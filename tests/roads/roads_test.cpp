@@ -220,6 +220,8 @@ class Walk {
             services.Register(rest);
         } else if (what == "drives") {
             services.files.SetDrives(Words(words.begin() + 1, std::find(words.begin(), words.end(), "")));
+        } else if (what == "clipboard") {
+            services.clipboard.text = Road::Unwritten(rest);
         } else if (what == "browser") {
             services.browser.there = words[1] != "none";
         } else if (what == "current") {
@@ -317,8 +319,9 @@ TEST_P(Roads, LeadWhereTheyAreToldTo) {
 
 INSTANTIATE_TEST_SUITE_P(, Roads,
                          ::testing::Values("screens", "fields", "rows", "select", "save", "open", "search",
-                                           "arc", "undo", "blocks", "findings", "pending", "keys", "derived",
-                                           "start", "folder", "tools", "faults", "reading"),
+                                           "arc", "undo", "blocks", "findings", "pending", "keys",
+                                           "positions", "derived", "start", "folder", "tools", "faults",
+                                           "reading"),
                          [](const auto& road) { return std::string(road.param); });
 
 }  // namespace

@@ -27,6 +27,7 @@ constexpr std::string_view Plans[] = {
 constexpr std::string_view Texts[] = {"0",    "5",  "33", "90", "91",    "117", "181",  "12.5",
                                       "045",  "60", "-5", "-",  "alpha", "DMO", "12a",  "FL35",
                                       "1e99", ".",  " 7", " x", "X.Y",   "KX",  "\xE9", ""};
+constexpr std::string_view Positions[] = {"N33 56.550 W118 24.480", "-33.9425 118.408", "33 118 x"};
 constexpr std::string_view Rubbish = "  --..0123456789ABCabc,\"'eED+&\xE9\\/*?:%;\t";
 // Those that are pressed often; now and then it is any.
 constexpr std::string_view Keys[] = {"Tab",   "Tab",   "BackTab", "Delete", "CtrlUp", "CtrlDown",
@@ -103,6 +104,8 @@ std::string RandomUser::ChooseOn(const Control& control) {
         return name + "#" + std::to_string(chance_.Below(std::max<std::size_t>(lines, 1)));
     };
     if (const auto* box = dynamic_cast<const TextBox*>(&control)) {
+        if (chance_.Percent(2)) return name + "#" + std::to_string(chance_.Below(3));
+        if (chance_.Percent(3)) return name + ">" + std::string(chance_.Of(Positions));
         return name + "=" + Road::Written(ChooseText(box->Text()));
     }
     if (const auto* list = dynamic_cast<const ColumnList*>(&control)) return name + ChooseLines(*list);

@@ -24,7 +24,7 @@ std::string Road::Start(FileSystem* files, const std::string& folder) {
     copies_.clear();
     program = std::make_unique<Program>(Platform{files != nullptr ? *files : machine.files, machine.registry,
                                                  machine.clock, machine.messages, machine.pictures,
-                                                 machine.browser, folder});
+                                                 machine.clipboard, machine.browser, folder});
     program->host.SetObserver(this);
     place_.clear();
     rows_.clear();
@@ -38,6 +38,7 @@ std::string Road::Start(FileSystem* files, const std::string& folder) {
 
 std::string Road::Do(std::string_view acts) {
     trace_.clear();
+    const std::string clipboard = services.clipboard.text;
     services.files.ForgetOperations();
     states_ = StatesNow();
     while (!acts.empty()) {
@@ -52,6 +53,7 @@ std::string Road::Do(std::string_view acts) {
         states_.insert(now.begin(), now.end());
         acts.remove_prefix(std::min(end + 3, acts.size()));
     }
+    if (services.clipboard.text != clipboard) Note("copied " + Written(services.clipboard.text));
     NoteChanges(states_);
     return trace_;
 }
@@ -122,7 +124,11 @@ bool Road::Act(std::string_view act) {
 
 bool Road::ActOn(Control& control, char how, const std::string& text) {
     UserDoor& door = program->door;
-    if (auto* box = dynamic_cast<TextBox*>(&control)) return how == '=' && Type(*box, text);
+    if (auto* box = dynamic_cast<TextBox*>(&control)) {
+        if (how == '>') return door.Type(*box, box->Text() + text);
+        if (how == '#') return door.PickMenuEntry(*box, static_cast<int>(LeadingNumber(text)));
+        return how == '=' && Type(*box, text);
+    }
     if (auto* button = dynamic_cast<Button*>(&control)) return door.Press(*button);
     if (auto* option = dynamic_cast<OptionButton*>(&control)) return door.Pick(*option);
     if (auto* check = dynamic_cast<CheckBox*>(&control)) return door.Toggle(*check);

@@ -24,8 +24,9 @@ namespace tarvex::testing {
 //                       line" drags them in front of it
 //     Name#x,y          clicks a picture, or with > double-clicks it; "#menu N" picks an entry of its menu,
 //                       "=w,h" gives it room; of tabs "#N" shows a page
-//     to Name           moves the focus
-//     key Name          Tab, BackTab, Escape, Delete, CtrlUp, CtrlDown, CtrlS, CtrlZ, CtrlY, CtrlShiftZ or
+//     Name>text         puts the text behind what the box holds, at a stroke; Name#N picks an entry of its
+//     menu to Name           moves the focus key Name          Tab, BackTab, Escape, Delete, CtrlUp,
+//     CtrlDown, CtrlS, CtrlZ, CtrlY, CtrlShiftZ or
 //                       Enter, in front
 //     close Screen      closes the window
 //     front Screen      brings the window to the front
@@ -53,7 +54,8 @@ class Road : FormObserver {
     bool DoOne(std::string_view act);
     // All controls of a screen in tab order, with their kinds, captions, limits and states.
     std::string Show(std::string_view screen);
-    // A line for each of the controls, with names between blanks; "Name#" tells of a list its selection alone.
+    // A line for each of the controls, with names between blanks; "Name#" tells of a list its selection
+    // alone.
     std::string See(std::string_view names);
     // A line for each row in use: its line in the list, "*" for an edited position, its fields.
     std::vector<std::string> Rows() const;

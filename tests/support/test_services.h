@@ -92,7 +92,6 @@ class ScriptedPictures : public PictureServices {
   public:
     std::optional<std::string> place;
     std::string proposed;  // the name that was proposed last
-    std::string copied;
 
     double Width(const std::string& text, double size, bool) const override {
         return 0.6 * size * static_cast<double>(text.size());
@@ -102,7 +101,14 @@ class ScriptedPictures : public PictureServices {
         return place;
     }
     std::string PngOf(const Drawing& drawing) override { return std::to_string(drawing.items.size()); }
-    void Copy(const std::string& text) override { copied = text; }
+};
+
+class TextClipboard : public Clipboard {
+  public:
+    std::string text;
+
+    void Copy(const std::string& copied) override { text = copied; }
+    std::string Text() override { return text; }
 };
 
 // Keeps what it was to open, unless there is none.
@@ -125,11 +131,14 @@ struct TestServices {
     FixedClock clock;
     ScriptedMessageBox messages;
     ScriptedPictures pictures;
+    TextClipboard clipboard;
     ScriptedBrowser browser;
 
     TestServices() { files.PutFolder("C:\\Tarvex"); }
 
-    Platform ForProgram() { return {files, registry, clock, messages, pictures, browser, "C:\\Tarvex"}; }
+    Platform ForProgram() {
+        return {files, registry, clock, messages, pictures, clipboard, browser, "C:\\Tarvex"};
+    }
 
     // The simulator's folder as its setup leaves it in the registry.
     void Register(const std::string& folder) {

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace tarvex {
+
+// One line of the menu of a control.
+struct MenuEntry {
+    std::string caption;
+    bool enabled = true;
+    std::function<void()> onClick;
+};
+
+}  // namespace tarvex
