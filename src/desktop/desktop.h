@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "desktop/double_click_guard.h"
+#include "desktop/held_key.h"
 #include "desktop/native_form.h"
 #include "program/program.h"
 #include "toolkit/act_queue.h"
@@ -35,6 +36,8 @@ class Desktop final : public FormObserver {
     Control* FocusOfProgram() { return program_.host.GetFocus().Current(); }
     // Whether the click that is being handled is the second of a double click.
     bool IsSecondClick() const { return guard_.IsSecondClick(); }
+    // Whether the key that is being handled is pressed again because it is held.
+    bool KeyRepeats() const { return heldKey_.Repeats(); }
     void ActivatedByUser(NativeForm& window);
     void CloseByUser(const Form& form);
 
@@ -68,6 +71,7 @@ class Desktop final : public FormObserver {
 
     Program& program_;
     DoubleClickGuard guard_;
+    HeldKey heldKey_;
     ActQueue acts_;
     std::map<const Form*, NativeForm*> windows_;
     std::map<std::string, ChosenSize> sizes_;  // that the user gave to windows, by the names of their forms

@@ -223,7 +223,7 @@ void NativeForm::OnKey(wxKeyEvent& event) {
         return;
     }
     if (const auto meant = MeaningOf(event, *form_, desktop_.FocusOfProgram())) {
-        if (event.IsAutoRepeat() && !meant->repeats) return;
+        if (desktop_.KeyRepeats() && !meant->repeats) return;
         Post(NativeAct::Kind::Act, nullptr,
              [this, key = meant->key](UserDoor& door) { return door.Key(*form_, key); });
         return;
