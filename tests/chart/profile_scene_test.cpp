@@ -102,9 +102,12 @@ TEST_F(ProfileSceneTest, WhateverTheRowsHoldTheDrawingIsFinite) {
     Route heap;
     heap.points.assign(201, At(33, {Kind::AtOrBelow, 99999, 99999}, "SAME"));
     ConnectLegs(heap);
+    Route between = heap;
+    between.points.resize(3);
+    between.points[1].altitude = {};
     Route none;
     none.points.resize(3);
-    for (const Route& route : {odd, one, heap, none, Route()}) {
+    for (const Route& route : {odd, one, heap, between, none, Route()}) {
         for (const Size size : {Size{900, 300}, Size{200, 80}, Size{10, 10}, Size{}}) {
             Draw(route, 0, size);
             const std::string text = SvgText(drawing, LightPalette(), "");

@@ -81,6 +81,10 @@ TEST(RhumbLineTest, Legs) {
         const RhumbLeg leg = RhumbLegBetween(test.from, test.to);
         EXPECT_NEAR(leg.course, test.course, 1e-12) << test.from.latitude << " " << test.from.longitude;
         EXPECT_NEAR(leg.miles, test.miles, 1e-9) << test.from.latitude << " " << test.from.longitude;
+        if (std::fabs(test.from.latitude) + std::fabs(test.to.latitude) > 178) continue;
+        const Position end = RhumbPointBetween(test.from, test.to, 1);
+        EXPECT_NEAR(end.latitude, test.to.latitude, 1e-9);
+        EXPECT_NEAR(end.longitude, test.to.longitude, 1e-9);
     }
 }
 

@@ -46,6 +46,15 @@ class SampleTest : public ::testing::Test {
     TestServices services_;
     Road road{services_};
     std::string started;
+
+  public:
+    // The picture as it was looked at and found right; TARVEX_RECORD=1 writes it anew.
+    static void ExpectRecorded(const std::string& name, const std::string& picture) {
+        const auto path = std::filesystem::path(TARVEX_PICTURES_FOLDER) / (name + ".txt");
+        if (std::getenv("TARVEX_RECORD") != nullptr) std::ofstream(path, std::ios::binary) << picture;
+        std::ifstream file(path, std::ios::binary);
+        EXPECT_TRUE(picture == std::string(std::istreambuf_iterator<char>(file), {})) << name;
+    }
 };
 
 TEST_F(SampleTest, ItsNavigationDataFillTheTables) {
@@ -84,7 +93,7 @@ TEST_F(SampleTest, TheApproachOfAnOlderVersionGetsItsRunwayWaypoint) {
               "    wrote C:\\Tarvex\\Tarvex.INI: C:\\FS2000\xC2\xB6N\xC2\xB6W\xC2\xB6W\xC2\xB6\n");
 }
 
-// The pictures of procedures as they were looked at and found right; TARVEX_RECORD=1 writes them anew.
+// Chart, profile and the whole sheet.
 TEST_F(SampleTest, ItsPicturesStayAsTheyAre) {
     struct Case {
         const char* acts;
@@ -113,12 +122,28 @@ TEST_F(SampleTest, ItsPicturesStayAsTheyAre) {
             if (page == 1) road.Do(meanwhile);
             pictures += SvgText(shown.Shown(), LightPalette(), name);
         }
-        const auto path = std::filesystem::path(TARVEX_PICTURES_FOLDER) / (std::string(name) + ".txt");
-        if (std::getenv("TARVEX_RECORD") != nullptr) std::ofstream(path, std::ios::binary) << pictures;
-        std::ifstream file(path, std::ios::binary);
-        EXPECT_TRUE(pictures == std::string(std::istreambuf_iterator<char>(file), {})) << name;
+        services_.pictures.place = "C:\\sheet.svg";
+        if (road.DoOne("SavePictureCommand")) pictures += services_.files.Content("C:\\sheet.svg");
+        ExpectRecorded(name, pictures);
         road.Do("close ModifyProcedure");
     }
+}
+
+// All symbols, full and hollow, in the inks of all roles.
+TEST(Symbols, StayAsTheyAre) {
+    Drawing drawing{{600, 60}, {}};
+    for (int glyph = 0; glyph <= static_cast<int>(Glyph::Redo); ++glyph) {
+        for (const bool hollow : {false, true}) {
+            drawing.items.emplace_back(Symbol{.glyph = static_cast<Glyph>(glyph),
+                                              .at = {20.0 + 40 * glyph, hollow ? 15.0 : 45.0},
+                                              .size = 20,
+                                              .role = static_cast<Role>(glyph),
+                                              .hollow = hollow,
+                                              .turn = hollow ? 0.0 : 0.5});
+        }
+    }
+    SampleTest::ExpectRecorded("symbols",
+                               SvgText(drawing, LightPalette(), "") + SvgText(drawing, DarkPalette(), ""));
 }
 
 }  // namespace

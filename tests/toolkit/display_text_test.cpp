@@ -19,6 +19,7 @@ TEST(DisplayTextTest, BytesAreShownAsTheirCharacters) {
         {"\xC3", U"\u00C3"},                                                  // UTF-8 cut off
         {"\xC0\xAF\xE0\x80\x80", U"\u00C0\u00AF\u00E0\u20AC\u20AC"},          // overlong
         {"\xED\xA0\x80", U"\u00ED\u00A0\u20AC"},                              // a surrogate
+        {"\xEE\x80\x80\xED\x9F\xBF", U"\uE000\uD7FF"},                        // and its neighbours
         {std::string_view("a\0\x1B\x7F", 4), U"a\u2400\u241B\u2421"},
     };
     for (const auto& [text, shown] : cases) EXPECT_EQ(ShownText(text), shown) << text;

@@ -11,6 +11,8 @@ constexpr std::string_view File =
     "\n"
     "#arch=win64\n"
     "\n"
+    "Software\\\\Maker\\\\Flight [2000\\]\\\\7.0] 1\n"
+    "\"PATH\"=\"of no key\"\n"
     "[Software\\\\Other] 1795380229\n"
     "\"path\"=\"wrong\"\n"
     "\n"
