@@ -12,12 +12,15 @@ namespace tarvex {
 namespace {
 
 constexpr std::size_t MostLength = 100;  // of a text that can be a position at all
-constexpr char DegreeSign = 'd';
+constexpr char DegreeSign = '\x01';      // no character that can be typed
 
 // The signs of degrees, minutes and seconds in one form each, letters in upper case, all blanks the same.
 std::string Simplified(std::string_view text) {
-    constexpr std::pair<std::string_view, std::string_view> forms[] = {{"\xC2\xB0", "d"},
-                                                                       {"\xC2\xBA", "d"},
+    constexpr std::pair<std::string_view, std::string_view> forms[] = {{"\xE2\x80\xB2\xE2\x80\xB2", "\""},
+                                                                       {"\xE2\x80\x99\xE2\x80\x99", "\""},
+                                                                       {"\xC2\xB0", "\x01"},
+                                                                       {"\xC2\xBA", "\x01"},
+                                                                       {"\xCB\x9A", "\x01"},
                                                                        {"\xE2\x80\xB2", "'"},
                                                                        {"\xE2\x80\x99", "'"},
                                                                        {"\xE2\x80\xB3", "\""},
@@ -89,7 +92,7 @@ std::optional<double> FromDigits(std::string_view digits, std::size_t degreeDigi
     return Joined(numbers);
 }
 
-// Numbers with what parts them: "33d56'33"", "33 56.5", "33:56:33".
+// Numbers with what parts them: 33°56'33", 33 56.5, 33:56:33.
 std::optional<double> FromNumbers(std::string_view text) {
     constexpr std::array<char, 3> signs = {DegreeSign, '\'', '"'};
     std::vector<double> numbers;
@@ -175,6 +178,26 @@ Halves SplitByNumbers(std::string_view text) {
     return {{{text.substr(0, middle)}, {text.substr(middle)}}};
 }
 
+// How many numbers stand there; a comma is taken as one of decimals.
+std::ptrdiff_t NumbersIn(std::string_view text) {
+    std::ptrdiff_t numbers = 0;
+    bool within = false;
+    for (const char c : text) {
+        const bool is = IsDigit(c) || (within && (c == '.' || c == ','));
+        numbers += is && !within;
+        within = is;
+    }
+    return numbers;
+}
+
+// Without letters it must be plain that these are two halves of one position, and not just two numbers.
+bool IsPlain(const std::pair<Half, Half>& halves) {
+    const std::ptrdiff_t numbers = NumbersIn(halves.first.text);
+    if (numbers != NumbersIn(halves.second.text)) return false;
+    return numbers > 1 || (halves.first.text.find_first_of(".,-+") != std::string_view::npos ||
+                           halves.second.text.find_first_of(".,-+") != std::string_view::npos);
+}
+
 Halves Split(std::string_view text) {
     if (text.find_first_of("NSEW") != std::string_view::npos) return SplitByLetters(text);
     for (const char parting : {';', '/', ','}) {
@@ -205,7 +228,7 @@ std::optional<Position> ReadPosition(std::string_view text) {
     if (text.size() > MostLength) return std::nullopt;
     const std::string simple = Simplified(text);
     auto halves = Split(Stripped(simple, " "));
-    if (!halves) return std::nullopt;
+    if (!halves || (halves->first.letter == 0 && !IsPlain(*halves))) return std::nullopt;
     const auto isLongitude = [](char letter) { return letter == 'E' || letter == 'W'; };
     if (isLongitude(halves->first.letter)) std::swap(halves->first, halves->second);
     if (isLongitude(halves->first.letter) ||

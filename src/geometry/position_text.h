@@ -28,7 +28,8 @@ namespace tarvex {
 //     N33 60 W118 24              minutes or seconds of 60 and more
 //     91 118, N90 0.1 E0 0        past the pole, or past 180 degrees
 //     335N118W, 33563N1182428W    digits that tell no degrees
-//     33 56 118                   not as many numbers for the one as for the other
+//     33 56 118, 33,5 11          without letters, not as many numbers for the one as for the other
+//     33 118, 1/2                 without letters, two whole numbers: they may be anything
 //     33'56 118'24                signs that belong to something else
 //
 std::optional<Position> ReadPosition(std::string_view text);

@@ -53,6 +53,7 @@ void FindWaypointForm::SearchCommand_Click() {
     WaypointListBox.Clear();
     PointerListBox.Clear();
     SearchText.SetText(Upper(SearchText.Text()));
+    searched_ = SearchText.Text();
 
     std::vector<std::string> identifiers;
     std::vector<std::string> pointers;

@@ -37,7 +37,9 @@ class FindWaypointForm : public Form {
     void Form_Load() override;
     Button* WayOut() override { return &GoBackCommand; }
     std::vector<Shortcut> Shortcuts() override {
-        return {{ShortcutKey::Enter, &SearchText, &SearchCommand},
+        // Behind a search that found what can be transferred, the same key transfers it.
+        const bool found = !searched_.empty() && AddWaypoint.Usable() && SearchText.Text() == searched_;
+        return {{ShortcutKey::Enter, &SearchText, found ? &AddWaypoint : &SearchCommand},
                 {ShortcutKey::Enter, &WaypointListBox, &AddWaypoint}};
     }
     void SearchCommand_Click();
@@ -60,6 +62,7 @@ class FindWaypointForm : public Form {
     SearchVariables& variables_;
     const SearchKindEntry* kind_ = nullptr;  // from the load on
     std::optional<SearchHit> hit_;           // of the last click
+    std::string searched_;                   // what was looked for last
 };
 
 }  // namespace tarvex

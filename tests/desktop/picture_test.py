@@ -65,7 +65,9 @@ class Pictures(WindowTest):
         key("Return")
         until(lambda: search.is_enabled("AddWaypoint"), "the hit")
         ring = until(lambda: self.pixels(editor, MARK), "the ring round the hit")
-        place = [(min(way) + max(way)) // 2 for way in zip(*ring)]
+        # The name stands right of the ring, in the same colour.
+        (left, _), (top, bottom) = [(min(way), max(way)) for way in zip(*ring)]
+        place = left + (bottom - top) // 2, (top + bottom) // 2
         search.click("AddWaypoint")
         editor = program.window("Modify a Procedure")
         editor.expect(editor.text, "FixNameText", "HEMET")

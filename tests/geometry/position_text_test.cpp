@@ -43,6 +43,14 @@ TEST(PositionText, IsReadInEveryForm) {
         {"335633N1182428W", North, -(118 + 24.0 / 60 + 28.0 / 3600)},
         {"N33563300W118242880", North, West},
         {"S90E180", -90, 180},
+        {"33\xC2\xB0"
+         "56\xE2\x80\xB2"
+         "33\xE2\x80\xB2\xE2\x80\xB2N 118\xCB\x9A"
+         "24\xE2\x80\xB2"
+         "28.8''W",
+         North, West},
+        {"33 N 118 24 W", 33, -118.4},
+        {"-33 118", -33, 118},
         {"-0.5 0", -0.5, 0},
         {"5S 7E", -5, 7},
     };
@@ -88,7 +96,14 @@ TEST(PositionText, IsNotGuessedFrom) {
                              "33,N 118,W",
                              "1 2 3 4 5 6 7 8",
                              "33N 118W.",
-                             "--33 118"}) {
+                             "--33 118",
+                             "48,5 9",
+                             "33, 118 24",
+                             "33 56; 118",
+                             "33d56 118d24",
+                             "1/2",
+                             "12;34",
+                             "33 118"}) {
         EXPECT_FALSE(ReadPosition(text)) << text;
     }
     EXPECT_FALSE(ReadPosition("33" + std::string(200, ' ') + "118"));
