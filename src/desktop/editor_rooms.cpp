@@ -22,10 +22,16 @@ EditorRooms::EditorRooms(NativeForm& window, wxBoxSizer& body, const Parts& part
       level_(LineOn(window, wxLI_HORIZONTAL)),
       upright_(LineOn(window, wxLI_VERTICAL)),
       besidePicture_(LineOn(window, wxLI_VERTICAL)) {
+    Arrange(false);
+}
+
+// Once the parts have what they show, which is behind their making.
+void EditorRooms::Measure() {
     for (const bool wide : {true, false}) {
         Arrange(wide);
-        (wide ? leastWide_ : leastHigh_) = window.Page().GetSizer()->CalcMin();
+        (wide ? leastWide_ : leastHigh_) = window_.Page().GetSizer()->CalcMin();
     }
+    measured_ = true;
 }
 
 // The arrangement that leaves more to the picture.
@@ -41,6 +47,7 @@ bool EditorRooms::HasRoomForWide() const {
 }
 
 void EditorRooms::Follow() {
+    if (!measured_) Measure();
     const bool wide = HasRoomForWide();
     if (wide == wide_) return;
     Arrange(wide);

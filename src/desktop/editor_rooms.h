@@ -33,6 +33,7 @@ class EditorRooms {
     void Follow();
 
   private:
+    void Measure();
     void Arrange(bool wide);
     void ArrangeWide();
     void ArrangeHigh();
@@ -48,6 +49,7 @@ class EditorRooms {
     wxWindow* upright_;
     wxWindow* besidePicture_;
     bool wide_ = false;
+    bool measured_ = false;
     wxSize leastWide_;  // of the page, arranged so
     wxSize leastHigh_;
     std::vector<std::pair<wxSizer*, wxSizer*>> held_;  // a part behind what holds it
