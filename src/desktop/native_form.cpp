@@ -169,12 +169,20 @@ ChosenSize NativeForm::SizeNow() const {
     return {IsMaximized() ? ownSize_ : GetClientSize(), IsMaximized()};
 }
 
+bool NativeForm::HoldsFocus(const Binder& binder) const {
+    if (!HoldsFocusOfWindow(binder.Widget())) return false;
+    return std::none_of(binders_.begin(), binders_.end(), [&binder](const auto& other) {
+        return other.get() != &binder && binder.Widget().IsDescendant(&other->Widget()) &&
+               HoldsFocusOfWindow(other->Widget());
+    });
+}
+
 void NativeForm::PutFocusOn(const Control& control, Arrival how) {
     Binder* binder = BinderOf(control);
     if (binder == nullptr) return;
     const Desktop::Mute mute(desktop_);
     arrivedAt_ = &control;
-    if (!HoldsFocusOfWindow(binder->Widget())) {
+    if (!HoldsFocus(*binder)) {
         binder->Widget().SetFocus();
         // A list may select a line of its own when it gets the focus.
         binder->ToWidget();

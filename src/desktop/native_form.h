@@ -76,6 +76,8 @@ class NativeForm final : public wxFrame {
     void Post(NativeAct::Kind kind, Control* control, std::function<bool(UserDoor&)> carry);
 
   private:
+    // Whether the keyboard is the widget's own, and not that of a control within it, as on a page of tabs.
+    bool HoldsFocus(const Binder& binder) const;
     void OnKey(wxKeyEvent& event);
     void OnArrival(wxChildFocusEvent& event);
     void OnActivate(wxActivateEvent& event);

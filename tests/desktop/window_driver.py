@@ -92,6 +92,9 @@ class Node:
     def caption(self):
         return self._property("Name")
 
+    def description(self):
+        return self._property("Description")
+
     def role(self):
         return self._ask("GetRoleName")
 
