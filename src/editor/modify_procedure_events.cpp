@@ -59,14 +59,14 @@ void ModifyProcedure::Connect() {
          {TransitionText, "Name of a transition, or the runway of a runway departure: up to 7 characters"},
          {FixNameText, "Name of the fix: up to 7 characters; empty for a navaid"},
          {NAVIDText, "Identifier of the navaid: up to 4 characters; empty for a fix"},
-         {FreqText, "Frequency of the navaid: MHz of a VOR, kHz of an NDB"},
+         {FreqText, "Frequency of the navaid: MHz of a VOR, kHz of an NDB, up to 6 characters"},
          {DDMLatText, "Latitude: whole degrees, 0 to 90"},
          {DMMLatText, "Latitude: minutes below 60, with decimals"},
          {DDMLongText, "Longitude: whole degrees, 0 to 180"},
          {DMMLongText, "Longitude: minutes below 60, with decimals"},
-         {Alt1Text, "Altitude, of a band the lower one: feet"},
-         {Alt2Text, "Upper altitude of a band: feet"},
-         {AirspeedText, "Airspeed: knots"}});
+         {Alt1Text, "Altitude, of a band the lower one: feet, up to 99999"},
+         {Alt2Text, "Upper altitude of a band: feet, up to 99999"},
+         {AirspeedText, "Airspeed at the waypoint: knots, up to 999"}});
     AirspeedText.OnChange = run(&Self::AirspeedText_Change);
     RwySpecificCheck.OnClick = run(&Self::RwySpecificCheck_Click);
     ConnectPositions();

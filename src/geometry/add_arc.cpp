@@ -46,11 +46,12 @@ AddARC::AddARC(FormHost& host, Dialogue& dialogue, ArcVariables& variables, std:
     ArcLabelText.SetLocked(true);
     ArcLabelText.SetVisible(false);
     Label4.SetVisible(false);
-    SetTips({{ArcStartText, "Radial from the centre on which the arc begins: degrees magnetic, 0 to 360"},
-             {ArcEndText, "Radial from the centre on which the arc ends: degrees magnetic, 0 to 360"},
-             {ArcRadiusText, "Radius of the arc: nautical miles, up to 99"},
-             {MagVarText, "Magnetic variation at the centre: degrees, its side beside it"},
-             {ArcLabelText, "What the names of the arc's waypoints begin with; a number follows"}});
+    SetTips(
+        {{ArcStartText, "Radial from the centre on which the arc begins: degrees magnetic, 0 to 360"},
+         {ArcEndText, "Radial from the centre on which the arc ends: degrees magnetic, 0 to 360"},
+         {ArcRadiusText, "Radius of the arc: nautical miles, up to 99"},
+         {MagVarText, "Magnetic variation at the centre: degrees, up to 4 characters, its side beside it"},
+         {ArcLabelText, "What the names of the arc's waypoints begin with; a number follows"}});
     ArcStartText.OnLostFocus = [this] { ArcStartText_LostFocus(); };
     ArcEndText.OnLostFocus = [this] { ArcEndText_LostFocus(); };
     ArcRadiusText.OnLostFocus = [this] { ArcRadiusText_LostFocus(); };

@@ -37,7 +37,7 @@ CreateWaypointForm::CreateWaypointForm(FormHost& host, Dialogue& dialogue, Start
         control->PutInto(Frame1);
     }
     SetTips({{TrueCourseText, "Course from the starting point: degrees true, 0 to 360"},
-             {DistText, "Distance from the starting point: nautical miles"},
+             {DistText, "Distance from the starting point: nautical miles, up to 9999"},
              {WaypointIDText, "Name of the new waypoint: up to 5 characters"}});
     NavaidCommand.OnClick = [this] { NavaidCommand_Click(); };
     FixCommand.OnClick = [this] { FixCommand_Click(); };
