@@ -16,18 +16,17 @@ constexpr char DegreeSign = '\x01';      // no character that can be typed
 
 // The signs of degrees, minutes and seconds in one form each, letters in upper case, all blanks the same.
 std::string Simplified(std::string_view text) {
-    constexpr std::pair<std::string_view, std::string_view> forms[] = {{"\xE2\x80\xB2\xE2\x80\xB2", "\""},
-                                                                       {"\xE2\x80\x99\xE2\x80\x99", "\""},
-                                                                       {"\xC2\xB0", "\x01"},
+    constexpr std::pair<std::string_view, std::string_view> forms[] = {{"\xC2\xB0", "\x01"},
                                                                        {"\xC2\xBA", "\x01"},
                                                                        {"\xCB\x9A", "\x01"},
                                                                        {"\xE2\x80\xB2", "'"},
                                                                        {"\xE2\x80\x99", "'"},
                                                                        {"\xE2\x80\xB3", "\""},
                                                                        {"\xE2\x80\x9D", "\""},
-                                                                       {"''", "\""},
                                                                        {"\xE2\x88\x92", "-"},
                                                                        {"\xC2\xA0", " "},
+                                                                       {"\xE2\x80\x89", " "},
+                                                                       {"\xE2\x80\xAF", " "},
                                                                        {"\t", " "},
                                                                        {"\r", " "},
                                                                        {"\n", " "},
@@ -40,7 +39,12 @@ std::string Simplified(std::string_view text) {
         const auto form = std::find_if(std::begin(forms), std::end(forms),
                                        [text](const auto& entry) { return text.starts_with(entry.first); });
         const bool known = form != std::end(forms);
-        simple += known ? form->second : text.substr(0, 1);
+        const std::string_view put = known ? form->second : text.substr(0, 1);
+        if (put == "'" && simple.ends_with('\'')) {
+            simple.back() = '"';
+        } else {
+            simple += put;
+        }
         text.remove_prefix(known ? form->first.size() : 1);
     }
     return simple;
@@ -72,11 +76,22 @@ std::optional<double> Joined(const std::vector<double>& numbers) {
     return degrees;
 }
 
-// Numbers of digits alone: two for the degrees, three of a longitude, two for minutes and for seconds, two
-// for hundredths of these.
-std::optional<double> FromDigits(std::string_view digits, std::size_t degreeDigits) {
-    if (digits.size() < degreeDigits || (digits.size() - degreeDigits) % 2 != 0 ||
-        digits.size() > degreeDigits + 6 || !std::all_of(digits.begin(), digits.end(), IsDigit)) {
+// Digits in a row: how many there are in front of a point; none for a text that has anything else.
+std::size_t RowLength(std::string_view text) {
+    const std::size_t length = std::min(text.find('.'), text.size());
+    const std::string_view fraction = text.substr(std::min(length + 1, text.size()));
+    const bool all = std::all_of(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(length), IsDigit) &&
+                     std::all_of(fraction.begin(), fraction.end(), IsDigit);
+    return all ? length : 0;
+}
+
+// Numbers of digits in a row: two for the degrees, three of a longitude, two for minutes and for seconds, two
+// for hundredths of these; a fraction belongs to the last.
+std::optional<double> FromDigits(std::string_view text, std::size_t degreeDigits) {
+    const std::string_view digits = text.substr(0, RowLength(text));
+    const std::string_view fraction = text.substr(digits.size());
+    if ((digits.size() - degreeDigits) % 2 != 0 ||
+        digits.size() > degreeDigits + (fraction.empty() ? 6 : 4)) {
         return std::nullopt;
     }
     std::vector<double> numbers = {0};
@@ -88,6 +103,11 @@ std::optional<double> FromDigits(std::string_view digits, std::size_t degreeDigi
         } else {
             numbers.push_back(pair);
         }
+    }
+    if (fraction.size() > 1) {
+        double part = 0;
+        std::from_chars(fraction.data(), fraction.data() + fraction.size(), part, std::chars_format::fixed);
+        numbers.back() += part;
     }
     return Joined(numbers);
 }
@@ -135,9 +155,12 @@ std::optional<double> ReadHalf(Half half, bool latitude) {
         }
         pointed[comma] = '.';
     }
+    // Between digits beside a letter a hyphen is no sign.
+    for (std::size_t i = 1; half.letter != 0 && i + 1 < pointed.size(); ++i) {
+        if (pointed[i] == '-' && IsDigit(pointed[i - 1]) && IsDigit(pointed[i + 1])) pointed[i] = ':';
+    }
     const std::size_t degreeDigits = latitude ? 2 : 3;
-    const bool digits = half.letter != 0 && pointed.size() > degreeDigits &&
-                        std::all_of(pointed.begin(), pointed.end(), IsDigit);
+    const bool digits = half.letter != 0 && RowLength(pointed) > degreeDigits;
     const auto magnitude = digits ? FromDigits(pointed, degreeDigits) : FromNumbers(pointed);
     if (!magnitude || *magnitude > (latitude ? 90 : 180)) return std::nullopt;
     return negative ? -*magnitude : *magnitude;
@@ -174,7 +197,9 @@ Halves SplitByNumbers(std::string_view text) {
     if (begins.size() < 2 || begins.size() % 2 != 0) return std::nullopt;
     std::size_t middle = begins[begins.size() / 2];
     if (text[middle - 1] == '-' || text[middle - 1] == '+') --middle;
-    if (text[middle - 1] != ' ') return std::nullopt;
+    const bool signBehindMark =
+        !IsDigit(text[middle]) && std::string_view("\x01'\"").find(text[middle - 1]) < 3;
+    if (text[middle - 1] != ' ' && !signBehindMark) return std::nullopt;
     return {{{text.substr(0, middle)}, {text.substr(middle)}}};
 }
 
@@ -233,6 +258,12 @@ std::optional<Position> ReadPosition(std::string_view text) {
     if (isLongitude(halves->first.letter)) std::swap(halves->first, halves->second);
     if (isLongitude(halves->first.letter) ||
         isLongitude(halves->second.letter) != (halves->first.letter != 0)) {
+        return std::nullopt;
+    }
+    // A shorter row is one that was cut off.
+    const std::size_t rows[] = {RowLength(Stripped(halves->first.text, " ")),
+                                RowLength(Stripped(halves->second.text, " "))};
+    if (halves->first.letter != 0 && (rows[0] > 2 || rows[1] > 3) && rows[0] + 1 != rows[1]) {
         return std::nullopt;
     }
     const auto latitude = ReadHalf(halves->first, true);

@@ -16,7 +16,8 @@ namespace tarvex {
 //     33 56 33 N, 118 24 28.8 W   degrees, minutes and seconds: 33°56'33"N 118°24'28.8"W, 33:56:33
 //     -118:24:28.8 33,9425 -118,408            a decimal comma, where it can't be what parts the two
 //     3356N11824W  33N118W        degrees of two and three digits, minutes and seconds of two: ICAO
-//     335633N1182428W
+//     335633N1182428W             also with a fraction: 335633.0N1182428.8W
+//     33-56-33.0N 118-24-28.8W    hyphens, with letters
 //     N33563300W118242880         with hundredths of seconds: ARINC 424
 //
 // and not read are
@@ -30,6 +31,8 @@ namespace tarvex {
 //     335N118W, 33563N1182428W    digits that tell no degrees
 //     33 56 118, 33,5 11          without letters, not as many numbers for the one as for the other
 //     33 118, 1/2                 without letters, two whole numbers: they may be anything
+//     3356N118W                   rows of digits of unlike length
+//     33-56 118-24                hyphens without letters
 //     33'56 118'24                signs that belong to something else
 //
 std::optional<Position> ReadPosition(std::string_view text);
