@@ -4,6 +4,7 @@
 
 #include <wx/menu.h>
 
+#include "desktop/native_clipboard.h"
 #include "desktop/native_text.h"
 #include "desktop/theme.h"
 #include "desktop/window_system.h"
@@ -17,7 +18,8 @@ TextBoxBinder::TextBoxBinder(NativeForm& window, TextBox& box, wxTextCtrl& widge
         DescribeForAccess(widget, Shown(box.Tip()));
     }
     box.OnRefused = [] { wxBell(); };
-    if (!box.Menu.empty()) widget.Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent&) { PopUpMenu(); });
+    if (!box.Menu.empty()) widget.Bind(wxEVT_CONTEXT_MENU, &TextBoxBinder::OnMenu, this);
+    if (box.TakesWhole) BindPaste();
     widget.Bind(wxEVT_TEXT, [this](wxCommandEvent&) { ToDoor(); });
     widget.Bind(wxEVT_LEFT_UP, [this](wxMouseEvent& event) {
         event.Skip();
@@ -39,8 +41,37 @@ void TextBoxBinder::ToDoor() {
     });
 }
 
+void TextBoxBinder::BindPaste() {
+    widget_.Bind(wxEVT_TEXT_PASTE, [this](wxClipboardTextEvent& event) {
+        if (!PasteWhole(NativeClipboard().Text())) event.Skip();
+    });
+#ifdef __WXGTK__
+    widget_.Bind(wxEVT_MIDDLE_DOWN, [this](wxMouseEvent& event) {
+        if (!PasteWhole(NativeClipboard::Selection())) event.Skip();
+    });
+#endif
+}
+
+// What the box takes is not pasted into the widget. The texts that stand there are no part of it.
+bool TextBoxBinder::PasteWhole(const std::string& text) {
+    if (!box_.TakesWhole(text)) return false;
+    Post([this, text](UserDoor& door) { return door.Paste(box_, text); });
+    return true;
+}
+
+// Not before the box has the focus: its acts need it, and the rule of the box that is left may keep it.
+void TextBoxBinder::OnMenu(wxContextMenuEvent& event) {
+    const bool byKey = event.GetPosition() == wxDefaultPosition;
+    const wxPoint at = byKey ? wxPoint(0, widget_.GetSize().y) : widget_.ScreenToClient(event.GetPosition());
+    Post([this, at](UserDoor& door) {
+        if (!door.MoveFocus(box_)) return false;
+        widget_.CallAfter([this, at] { PopUpMenu(at); });
+        return true;
+    });
+}
+
 // The usual entries of a box, and its own.
-void TextBoxBinder::PopUpMenu() {
+void TextBoxBinder::PopUpMenu(const wxPoint& at) {
     constexpr int Own = 1;  // the number of the first
     wxMenu menu;
     menu.Append(wxID_UNDO)->Enable(box_.CanUndoTyping());
@@ -53,9 +84,10 @@ void TextBoxBinder::PopUpMenu() {
     menu.Append(wxID_SELECTALL)->Enable(!widget_.IsEmpty());
     menu.AppendSeparator();
     for (int i = 0; const MenuEntry& entry : box_.Menu) {
-        menu.Append(Own + i++, Shown(entry.caption))->Enable(entry.enabled);
+        const wxString key = entry.key.empty() ? wxString() : "\t" + Shown(entry.key);
+        menu.Append(Own + i++, Shown(entry.caption) + key)->Enable(entry.enabled);
     }
-    const int chosen = widget_.GetPopupMenuSelectionFromUser(menu);
+    const int chosen = widget_.GetPopupMenuSelectionFromUser(menu, at);
     switch (chosen) {
         case wxID_NONE:
             return;

@@ -16,7 +16,10 @@ class TextBoxBinder final : public Binder {
 
   private:
     void ToDoor();
-    void PopUpMenu();
+    void BindPaste();
+    bool PasteWhole(const std::string& text);
+    void OnMenu(wxContextMenuEvent& event);
+    void PopUpMenu(const wxPoint& at);
     void RemoveSelection();
     void PutText(const wxString& text);
     // Behind the last character that can be seen.

@@ -19,4 +19,13 @@ std::string NativeClipboard::Text() {
     return data.GetText().utf8_string();
 }
 
+#ifdef __WXGTK__
+std::string NativeClipboard::Selection() {
+    wxTheClipboard->UsePrimarySelection(true);
+    std::string text = NativeClipboard().Text();
+    wxTheClipboard->UsePrimarySelection(false);
+    return text;
+}
+#endif
+
 }  // namespace tarvex

@@ -24,10 +24,8 @@ inline Message NotOpened(const std::string& fileName, const std::string& reason)
 
 // Positions from the clipboard and onto it.
 inline Message NoPositionToPaste(const std::string& text) {
-    constexpr std::size_t Most = 60;
-    const std::string held = text.size() <= Most ? text : text.substr(0, Most) + "...";
     return {
-        .prompt = (text.empty() ? "There is no text on the clipboard." : "This is no position:\r\n" + held) +
+        .prompt = (text.empty() ? "There is no text on the clipboard." : "This is no position:\r\n" + text) +
                   "\r\nA position is written like N33 56.550 W118 24.480 or 33.9425 -118.408.",
         .title = "Paste Position"};
 }

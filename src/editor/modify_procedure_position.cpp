@@ -6,6 +6,8 @@
 #include "editor/modify_procedure.h"
 #include "geometry/position_text.h"
 #include "geometry/text_rules.h"
+#include "toolkit/characters.h"
+#include "toolkit/display_text.h"
 
 namespace tarvex {
 
@@ -23,13 +25,29 @@ bool IsFilled(const CoordinateGroup& axis) {
     return !axis.degrees.Text().empty() || !axis.minutes.Text().empty();
 }
 
+// The beginning of a text, in one line.
+std::string Excerpt(std::string_view text) {
+    constexpr std::size_t LookedAt = 1000;
+    constexpr int Most = 60;  // characters
+    std::string line = PlainCaption(text.substr(0, LookedAt));
+    std::size_t end = 0;
+    for (int left = Most; left > 0 && end < line.size(); --left) {
+        end += std::max<std::size_t>(Utf8CharacterAt(std::string_view(line).substr(end)).bytes, 1);
+    }
+    if (end < line.size()) line.replace(end, std::string::npos, "...");
+    return line;
+}
+
 }  // namespace
 
 void ModifyProcedure::ConnectPositions() {
     for (TextBox* box : {&DDMLatText, &DMMLatText, &DDMLongText, &DMMLongText}) {
-        box->OnPaste = [this](std::string_view text) { return TakePosition(text); };
-        box->Menu = {{"Paste Position", true, [this] { PastePosition(); }},
-                     {"Copy Position", true, [this] { CopyPosition(); }}};
+        box->TakesWhole = [](std::string_view text) { return ReadPosition(text).has_value(); };
+        box->OnPaste = [this](std::string_view text) { TakePosition(text); };
+        box->Menu = {{"Paste Position", true, [this] { PastePosition(); },
+                      std::string(NameOf(ShortcutKey::CtrlShiftV))},
+                     {"Copy Position", true, [this] { CopyPosition(); },
+                      std::string(NameOf(ShortcutKey::CtrlShiftC))}};
     }
 }
 
@@ -50,7 +68,7 @@ bool ModifyProcedure::TakePosition(std::string_view text) {
 
 void ModifyProcedure::PastePosition() {
     const std::string text = workplace_.platform.clipboard.Text();
-    if (!TakePosition(text)) dialogue_.Ask(editor_messages::NoPositionToPaste(text));
+    if (!TakePosition(text)) dialogue_.Ask(editor_messages::NoPositionToPaste(Excerpt(text)));
 }
 
 void ModifyProcedure::CopyPosition() {

@@ -10,6 +10,7 @@ struct MenuEntry {
     std::string caption;
     bool enabled = true;
     std::function<void()> onClick;
+    std::string key = {};  // the name of the key that does the same; empty for none
 };
 
 }  // namespace tarvex

@@ -79,8 +79,9 @@ class TextBox : public Control {
     void FocusGone() override { typing_.reset(); }
 
     std::function<void()> OnChange;
-    // Asked of what comes into the box at a stroke: whether it is taken otherwise than as typing.
-    std::function<bool(std::string_view)> OnPaste;
+    // Whether a text, in UTF-8, that the user pastes means more than typing it would, and what it does then.
+    std::function<bool(std::string_view)> TakesWhole;
+    std::function<void(std::string_view)> OnPaste;
     // Not all that was typed had room.
     std::function<void()> OnRefused;
     // What its menu has beside the usual entries.

@@ -41,27 +41,9 @@ std::string WithinLimit(std::string_view before, std::string_view typed, std::si
 void RunEntry(const std::vector<MenuEntry>& menu, int index) {
     if (index < 0 || index >= static_cast<int>(menu.size())) return;
     // The entry goes with the menu, which its own act may change.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const MenuEntry entry = menu[static_cast<std::size_t>(index)];
     if (entry.enabled && entry.onClick) entry.onClick();
-}
-
-// What stands in `typed` and not in `before`, all of it at one place.
-std::string_view PutIn(std::string_view before, std::string_view typed) {
-    const std::size_t most = std::min(before.size(), typed.size());
-    std::size_t head = 0;
-    while (head < most && before[head] == typed[head]) ++head;
-    std::size_t tail = 0;
-    while (tail < most - head && before.rbegin()[tail] == typed.rbegin()[tail]) ++tail;
-    return typed.substr(head, typed.size() - head - tail);
-}
-
-// Whether the box takes what was put in at a stroke; where it took the place of all, it may share its ends
-// with what stood there.
-bool TakesPaste(const TextBox& box, std::string_view typed) {
-    constexpr std::size_t AtAStroke = 3;
-    if (!box.OnPaste) return false;
-    const std::string_view put = PutIn(box.Text(), typed);
-    return put.size() >= AtAStroke && (box.OnPaste(typed) || box.OnPaste(put));
 }
 
 // Whether the key was for the typing in the box that has the focus.
@@ -91,12 +73,16 @@ bool UserDoor::Type(TextBox& box, std::string_view text) {
     const bool acted = Act(box, [&] {
         if (box.Locked()) return;
         taken = true;
-        if (TakesPaste(box, text)) return;
         const std::string within = WithinLimit(box.Text(), text, static_cast<std::size_t>(box.MaxLength()));
         box.Type(within);
         if (within.size() < text.size() && box.OnRefused) box.OnRefused();
     });
     return acted && taken;
+}
+
+bool UserDoor::Paste(TextBox& box, std::string_view text) {
+    if (box.Locked() || !box.TakesWhole || !box.TakesWhole(text)) return false;
+    return Act(box, [&] { box.OnPaste(text); });
 }
 
 bool UserDoor::Press(Button& button) {

@@ -26,8 +26,10 @@ class UserDoor {
     // The user changed the text of the box to `text`. What was put in is cut where the text would pass the
     // box's limit; taking away is always free, also in a text longer than the limit. Blanks at the end give
     // way to what is put in front of them.
-    // What comes at a stroke, three characters or more, may mean something else to the box.
     bool Type(TextBox& box, std::string_view text);
+    // The user pasted `text`, in UTF-8, into the box: carried out where the box takes it whole. Any other is
+    // typing and takes no place here.
+    bool Paste(TextBox& box, std::string_view text);
     bool Press(Button& button);
     bool Pick(OptionButton& option);
     bool Toggle(CheckBox& check);

@@ -125,7 +125,7 @@ bool Road::Act(std::string_view act) {
 bool Road::ActOn(Control& control, char how, const std::string& text) {
     UserDoor& door = program->door;
     if (auto* box = dynamic_cast<TextBox*>(&control)) {
-        if (how == '>') return door.Type(*box, box->Text() + text);
+        if (how == '>') return door.Paste(*box, text) || door.Type(*box, box->Text() + text);
         if (how == '#') return door.PickMenuEntry(*box, static_cast<int>(LeadingNumber(text)));
         return how == '=' && Type(*box, text);
     }

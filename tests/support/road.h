@@ -24,10 +24,9 @@ namespace tarvex::testing {
 //                       line" drags them in front of it
 //     Name#x,y          clicks a picture, or with > double-clicks it; "#menu N" picks an entry of its menu,
 //                       "=w,h" gives it room; of tabs "#N" shows a page
-//     Name>text         puts the text behind what the box holds, at a stroke; Name#N picks an entry of its
-//     menu to Name           moves the focus key Name          Tab, BackTab, Escape, Delete, CtrlUp,
-//     CtrlDown, CtrlS, CtrlZ, CtrlY, CtrlShiftZ or
-//                       Enter, in front
+//     Name>text         pastes the text behind what the box holds; "Name#N" picks an entry of its menu
+//     to Name           moves the focus
+//     key Name          Tab, BackTab, Escape or any of NamedKeys without its "+", in front
 //     close Screen      closes the window
 //     front Screen      brings the window to the front
 //     Yes, No           answers the next question; without an answer it gets its default
