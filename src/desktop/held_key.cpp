@@ -4,12 +4,21 @@
 
 namespace tarvex {
 
+namespace {
+
+// Until the first repeat of a key, where the user wants it slow.
+constexpr std::chrono::milliseconds SlowestRepeat{1000};
+
+}  // namespace
+
 int HeldKey::FilterEvent(wxEvent& event) {
     const wxEventType type = event.GetEventType();
     if (type == wxEVT_CHAR_HOOK) {
         const int code = static_cast<const wxKeyEvent&>(event).GetKeyCode();
-        repeats_ = std::exchange(code_, code) == code;
-    } else if (type == wxEVT_KEY_UP || type == wxEVT_ACTIVATE) {
+        const auto now = std::chrono::steady_clock::now();
+        const bool soon = now - std::exchange(pressed_, now) < SlowestRepeat;
+        repeats_ = std::exchange(code_, code) == code && soon;
+    } else if (type == wxEVT_KEY_UP) {
         code_ = WXK_NONE;
     }
     return Event_Skip;

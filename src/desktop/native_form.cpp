@@ -220,6 +220,8 @@ void NativeForm::OnKey(wxKeyEvent& event) {
     }
     if (event.GetKeyCode() == WXK_ESCAPE && event.GetModifiers() == wxMOD_NONE &&
         form_->WayOut() != nullptr) {
+        // Held, it must not lead from window to window and out of the program.
+        if (desktop_.KeyRepeats()) return;
         Post(NativeAct::Kind::Act, nullptr, [this](UserDoor& door) { return door.Escape(*form_); });
         return;
     }
