@@ -95,9 +95,13 @@ Words TooSteep(const Subject& subject, std::size_t row) {
     const auto feetFrom = [&](const RoutePoint& point) {
         return Least(point.altitude) - Most(here.altitude);
     };
+    // Over a row without a position nobody knows how far it is.
+    std::size_t known = row;
+    while (known > 0 && subject.Point(known).leg) --known;
     const auto slope = [&](const RoutePoint& point) {
         const double miles = here.distance - point.distance;
-        return miles < LeastMiles ? 0 : feetFrom(point) / (miles * FeetPerMile);
+        const bool measured = &point >= &subject.Point(known);
+        return !measured || miles < LeastMiles ? 0 : feetFrom(point) / (miles * FeetPerMile);
     };
     const RoutePoint* before = MostDemanding(subject, row, slope);
     if (before == nullptr) return {};

@@ -19,11 +19,15 @@ std::vector<std::int32_t> EndsOf(const Examined& procedure) {
     return FindEntries(procedure.tables, NavigationTable::Airports, Trim(procedure.name.icao));
 }
 
-std::size_t FirstRunway(const Route& route) {
+std::string_view RunwayOf(std::string_view identifier) {
+    return Trim(identifier.substr(AirportCodeLength));
+}
+
+std::size_t LastRunway(const Route& route) {
     const auto& points = route.points;
-    const auto first =
-        std::find_if(points.begin(), points.end(), [](const RoutePoint& point) { return point.runway; });
-    return static_cast<std::size_t>(first - points.begin());
+    const auto last =
+        std::find_if(points.rbegin(), points.rend(), [](const RoutePoint& point) { return point.runway; });
+    return last == points.rend() ? points.size() : static_cast<std::size_t>(points.rend() - last) - 1;
 }
 
 double UsualLeg(const Route& route) {
@@ -38,16 +42,19 @@ double UsualLeg(const Route& route) {
     return *middle;
 }
 
+// Of the runway as the tables have it, else as its row has it; without a runway the lowest of the airport.
 std::optional<double> Elevation(const Examined& procedure, std::size_t landing) {
-    using Kind = AltitudeRestriction::Kind;
-    if (landing < procedure.route.points.size()) {
-        const AltitudeRestriction& altitude = procedure.route.points[landing].altitude;
-        if (altitude.kind != Kind::None) return altitude.low;
-    }
+    const bool lands = landing < procedure.rows.size();
+    const std::string_view runway = lands ? RunwayInName(procedure.rows[landing].WaypointID) : "";
     std::optional<double> lowest;
     for (const std::int32_t index : EndsOf(procedure)) {
-        const double feet = procedure.tables.AirportTable[static_cast<std::size_t>(index)].AirportElevation;
-        if (!lowest || feet < *lowest) lowest = feet;
+        const AirportRecord& end = procedure.tables.AirportTable[static_cast<std::size_t>(index)];
+        const double feet = end.AirportElevation;
+        if (lands && RunwayOf(end.AirportID) == runway) return feet;
+        if (!lands && (!lowest || feet < *lowest)) lowest = feet;
+    }
+    if (lands && procedure.route.points[landing].altitude.kind != AltitudeRestriction::Kind::None) {
+        return procedure.route.points[landing].altitude.low;
     }
     return lowest;
 }
@@ -56,7 +63,7 @@ std::optional<double> Elevation(const Examined& procedure, std::size_t landing) 
 
 Subject::Subject(const Examined& procedure)
     : Examined(procedure),
-      landing(IsApproach(mode) ? FirstRunway(route) : route.points.size()),
+      landing(IsApproach(mode) ? LastRunway(route) : route.points.size()),
       usualLeg(UsualLeg(route)),
       elevation(Elevation(procedure, landing)) {}
 
@@ -70,7 +77,7 @@ std::optional<bool> HasRunway(const Subject& subject, std::string_view runway) {
     return std::any_of(ends.begin(), ends.end(), [&](std::int32_t index) {
         const std::string_view identifier =
             EntryAt(subject.tables, NavigationTable::Airports, index).identifier;
-        return Trim(identifier.substr(AirportCodeLength)) == runway;
+        return RunwayOf(identifier) == runway;
     });
 }
 

@@ -99,11 +99,12 @@ Words CoordinateMisread(const Subject& subject, std::size_t row) {
 Words NoRunway(const Subject& subject) {
     const bool main = subject.name.secondName.empty();
     if (!IsApproach(subject.mode) || !main || subject.rows.empty()) return {};
-    const bool any = std::any_of(subject.rows.begin(), subject.rows.end(), [](const WaypointRecord& record) {
-        return !RunwayInName(record.WaypointID).empty();
-    });
+    // An approach leads to it; what it begins with is none.
+    const bool any =
+        std::any_of(subject.rows.begin() + 1, subject.rows.end(),
+                    [](const WaypointRecord& record) { return !RunwayInName(record.WaypointID).empty(); });
     if (any) return {};
-    return "This approach has no runway yet: \"Find Airport\" brings one.";
+    return "This approach leads to no runway yet: \"Find Airport\" brings one.";
 }
 
 Words UnknownRunwayOfDeparture(const Subject& subject) {

@@ -37,10 +37,12 @@ double MilesTo(const Position& from, const std::optional<Position>& before,
            (after ? RhumbLegBetween(from, *after).miles : 0);
 }
 
-// Routes do cross the equator and the meridians of 0 and 180 degrees. They don't come back at once, and do
-// not end with a leg of this length that is ten times shorter with the other sign.
+// Routes do cross the equator and the meridians of 0 and 180 degrees, at Greenwich also there and back. They
+// don't come back at once from so far, and do not end with a leg of that length that is ten times shorter
+// with the other sign.
 bool IsAcross(const Subject& subject, std::size_t row, const Position& mirrored, SameSide sameSide) {
-    constexpr double LeastMiles = 60;
+    constexpr double LeastMiles = 200;  // there and back
+    constexpr double LeastOfLastLeg = 150;
     constexpr double LastLegShare = 0.1;
     const auto& here = PositionAt(subject, row);
     const auto& before = PositionAt(subject, row - 1);
@@ -56,7 +58,7 @@ bool IsAcross(const Subject& subject, std::size_t row, const Position& mirrored,
     if (!across(before) && !across(after)) return false;
     const auto& beyond = PositionAt(subject, before ? row - 2 : row + 2);
     if (beyond ? across(beyond) != across(before ? before : after) : !before) return false;
-    return MilesTo(*here, before, after) > LeastMiles &&
+    return MilesTo(*here, before, after) > LeastOfLastLeg &&
            MilesTo(mirrored, before, after) < LastLegShare * MilesTo(*here, before, after);
 }
 

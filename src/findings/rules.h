@@ -14,11 +14,11 @@ struct Subject : Examined {
 
     const RoutePoint& Point(std::size_t row) const { return route.points[row]; }
     bool FliesIn() const;  // an arrival or an approach
-    // Up to this row, and not at it, an approach comes down: the first runway, or behind all rows. What
+    // Up to this row, and not at it, an approach comes down: the last runway, or behind all rows. What
     // follows is the missed approach.
     std::size_t landing;
     double usualLeg;  // nautical miles: the leg in the middle of all by length; 0 for fewer than four
-    std::optional<double> elevation;  // feet: of the runway among the rows, else the lowest of the airport
+    std::optional<double> elevation;  // feet: of that runway, without one the lowest of the airport
 };
 
 // What a rule says of a row, or of the whole; nothing where it has nothing to say.

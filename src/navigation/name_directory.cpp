@@ -2,6 +2,7 @@
 
 #include <bitset>
 #include <cstdint>
+#include <cstring>
 
 #include "geometry/text_rules.h"
 #include "navigation/entry_position.h"
@@ -10,40 +11,42 @@ namespace tarvex {
 
 namespace {
 
-// Whether a text may be one of some names, by its first two characters: nearly all entries end here.
-class Beginnings {
+constexpr std::size_t IdentifierWidth = 5;
+
+// Tells nearly all identifiers that are none of some names without looking at these.
+class Sieve {
   public:
-    void Add(std::string_view name) { set_.set(Index(name)); }
-    bool MayBegin(std::string_view identifier) const {
-        return identifier.front() == ' ' || set_[Index(identifier)];
+    void Add(std::string_view name) { set_.set(Index(FixedField<IdentifierWidth>(name))); }
+    bool Holds(const FixedField<IdentifierWidth>& identifier) const {
+        return identifier.View().front() == ' ' || set_[Index(identifier)];
     }
 
   private:
-    static std::size_t Index(std::string_view text) {
-        const auto first = static_cast<unsigned char>(text[0]);
-        const auto second = static_cast<unsigned char>(text.size() > 1 ? text[1] : ' ');
-        return first * std::size_t{256} + second;
+    static std::size_t Index(const FixedField<IdentifierWidth>& identifier) {
+        std::uint64_t characters = 0;
+        std::memcpy(&characters, identifier.View().data(), IdentifierWidth);
+        return static_cast<std::size_t>(characters * 0x9E3779B97F4A7C15u >> 48);  // spreads them over 16 bits
     }
 
-    std::bitset<std::size_t{256} * 256> set_;
+    std::bitset<std::size_t{1} << 16> set_;
 };
 
 }  // namespace
 
 void NameDirectory::Learn(const std::set<std::string_view>& names) {
     std::map<std::string_view, Places*> wanted;
-    Beginnings beginnings;
+    Sieve sieve;
     for (const std::string_view name : names) {
         if (name.empty() || places_.contains(name)) continue;
         const auto place = places_.try_emplace(std::string(name)).first;
         wanted.emplace(place->first, &place->second);
-        beginnings.Add(name);
+        if (name.size() <= IdentifierWidth) sieve.Add(name);
     }
     if (wanted.empty()) return;
     const auto scan = [&](NavigationTable table, std::int32_t last, auto identifierAt) {
         for (std::int32_t index = 0; index <= last; ++index) {
-            const std::string_view identifier = identifierAt(static_cast<std::size_t>(index));
-            if (!beginnings.MayBegin(identifier)) continue;
+            const auto& identifier = identifierAt(static_cast<std::size_t>(index));
+            if (!sieve.Holds(identifier)) continue;
             const auto found = wanted.find(Trim(identifier));
             if (found == wanted.end()) continue;
             if (const auto position = PositionOf(EntryAt(tables_, table, index))) {
@@ -52,10 +55,13 @@ void NameDirectory::Learn(const std::set<std::string_view>& names) {
             found->second->navaid |= table == NavigationTable::Navaids;
         }
     };
-    scan(NavigationTable::Fixes, tables_.FixCount,
-         [this](std::size_t index) { return tables_.FixTable[index].FixID.View(); });
-    scan(NavigationTable::Navaids, tables_.NavaidCount,
-         [this](std::size_t index) { return tables_.NavaidTable[index].NavaidID.View(); });
+    scan(
+        NavigationTable::Fixes,
+        tables_.FixCount, [this](std::size_t index) -> const auto& { return tables_.FixTable[index].FixID; });
+    scan(
+        NavigationTable::Navaids, tables_.NavaidCount, [this](std::size_t index) -> const auto& {
+            return tables_.NavaidTable[index].NavaidID;
+        });
 }
 
 const NameDirectory::Places& NameDirectory::Find(std::string_view name) const {

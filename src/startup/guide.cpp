@@ -1,5 +1,7 @@
 #include "startup/guide.h"
 
+#include <algorithm>
+
 #include "toolkit/failure.h"
 
 namespace tarvex {
@@ -14,14 +16,22 @@ bool IsThere(FileSystem& files, const std::string& path) try {
     return false;
 }
 
+// As the system writes it, for the user to copy.
+std::string ForUser(std::string path) {
+    const bool rooted = path.starts_with('\\') && !path.starts_with("\\\\");
+    if (rooted) std::replace(path.begin(), path.end(), '\\', '/');
+    return path;
+}
+
 }  // namespace
 
 void ShowGuide(const Platform& platform, Dialogue& dialogue) {
     const std::string path = platform.programFolder + "\\guide\\guide.html";
     if (!IsThere(platform.files, path)) {
-        dialogue.Ask({.prompt = "The guide is not where it belongs:\r\n" + path, .title = Title});
+        dialogue.Ask({.prompt = "The guide is not where it belongs:\r\n" + ForUser(path), .title = Title});
     } else if (!platform.browser.Open(path)) {
-        dialogue.Ask({.prompt = "No browser opens the guide. It lies here:\r\n" + path, .title = Title});
+        dialogue.Ask(
+            {.prompt = "No browser opens the guide. It lies here:\r\n" + ForUser(path), .title = Title});
     }
 }
 

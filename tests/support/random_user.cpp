@@ -16,6 +16,7 @@ constexpr std::string_view Plans[] = {
     R"(WaypointList#? | Alt1Text={/0/5000/250/FL35/-5} | {ModifyWaypointCommand/DeleteWaypointCommand/MoveUp/MoveDown})",
     R"(PictureTabs#2 | LegsList#? | LegsList#? | key {CtrlUp/CtrlDown} | LegsList#? | LegsList#? | {key Delete/UndoCommand})",
     R"(PictureTabs#2 | LegsList#? | LegsList#? | key {CtrlUp/CtrlDown/Delete} | LegsList#? | LegsList#?)",
+    R"(PictureTabs#3 | FindingsList#? | {ModifyWaypointCommand/DeleteWaypointCommand/UndoCommand})",
     R"(UndoCommand | {UndoCommand/RedoCommand} | {UndoCommand/RedoCommand/MoveUp})",
     R"(WaypointList#? | {SLatOption/WLongOption/AtOption/AtBelowOption} | ModifyWaypointCommand)",
     R"(ClearDataCommand | {FixNameText/NAVIDText}={a/alpha/fix 1/\xE9t\xE9/B-1/KX} | FreqText=113.60 | DDMLatText={<90} | DMMLatText={<60} | DDMLongText={<180} | DMMLongText=59.999999 | Alt1Text={/5000} | AddWaypointCommand)",
