@@ -254,10 +254,10 @@ std::string ProcedurePicture::Words() const {
     for (const Target& target : {pointed_, marked_}) {
         if (target.kind != Target::Kind::None) return WordsOf(target);
     }
+    if (PictureTabs.Index() == FindingsPage && Findings.Count() == 0) return "Nothing found.";
     if (const auto rows = LegsList.Selected().size(); rows > 1) {
         return NumberText(static_cast<double>(rows)) + " waypoints are selected.";
     }
-    if (PictureTabs.Index() == FindingsPage && Findings.Count() == 0) return "Nothing found.";
     if (route_.points.empty()) return std::string(view_ ? "" : Hint);
     return RouteSentence(route_);
 }

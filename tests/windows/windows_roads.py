@@ -399,6 +399,22 @@ def click_on_the_chart(machine, picture):
         require(after.split(b"\r\n", 1)[1] == rest, f"saved file {after!r}")
 
 
+def rows_go_together_by_keys(machine, picture):
+    machine.set_up()
+    machine.settings(rb"C:\FS2000")
+    rows = lambda: [row for row in machine.star().read_bytes().split(b"\r\n") if row.startswith(b"W,")]  # noqa: E731
+    before = rows()
+    with machine.program():
+        open_star()
+        wait_for(EDITOR)
+        keys("ctrl+l", "Home", "ctrl+3", "shift+Down", "ctrl+Down")
+        time.sleep(0.5)
+        picture()
+        keys("ctrl+s")
+        wait_for(MENU)
+    require(rows() == [before[2], before[0], before[1], *before[3:]], f"rows as they are: {rows()}")
+
+
 def native_program_beside_the_prefix(machine, picture):
     machine.set_up()
     registry("add", REGISTRY_KEY, "/v", "path", "/d", r"c:\fs2000")
@@ -424,6 +440,7 @@ ROADS = [
     double_click_on_the_way_out,
     click_on_the_chart,
     fix_taken_from_the_chart,
+    rows_go_together_by_keys,
     native_program_beside_the_prefix,
 ]
 
