@@ -37,6 +37,8 @@ inline const Message NoPositionToCopy{
 // What the boxes hold beside the rows.
 inline constexpr std::string_view NotInTheProcedure = "Not in the procedure yet: press Add.";
 inline constexpr std::string_view ChangedNotWritten = "Changed, not written yet: press Modify. ";
+inline constexpr std::string_view PositionNotTaken =
+    "Changed: go through the position's boxes, then press Modify.";
 inline constexpr std::string_view AddIsOff = "Add is off while a waypoint is selected.";
 
 // Saving.

@@ -211,11 +211,22 @@ class ModifyProcedure : public Form, private RowsObserver {
 
     // What stands in the boxes of a waypoint.
     struct Held {
-        std::vector<std::string> texts;
-        std::vector<bool> options;
+        struct Axis {
+            std::string degrees;
+            std::string minutes;
+            bool positive = false;
+            bool IsFilled() const { return !degrees.empty() || !minutes.empty(); }
+            friend bool operator==(const Axis&, const Axis&) = default;
+        };
+        Axis latitude;
+        Axis longitude;
+        std::vector<std::string> texts{};
+        std::vector<bool> options{};
         friend bool operator==(const Held&, const Held&) = default;
     };
     Held HeldByBoxes() const;
+    void NoteWritten();
+    bool WouldBeWritten(const CoordinateGroup& axis, Flag edited) const;
     void ShowPending();
 
     void ShowRowsInUse();

@@ -149,7 +149,7 @@ void ModifyProcedure::ModifyWaypointCommand_Click() {
     row.RestrictionType = RestrictionCode(*this);
     const RowsStep step(state_.Rows, StepName("Modify", WaypointList.Text()));
     state_.Rows.Replace(index, row);
-    shown_ = HeldByBoxes();
+    NoteWritten();
     LatEdited = False;
     LongEdited = False;
 }
