@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include <wx/utils.h>
+
 namespace tarvex {
 
 namespace {
@@ -18,7 +20,9 @@ int HeldKey::FilterEvent(wxEvent& event) {
         const auto now = std::chrono::steady_clock::now();
         const bool soon = now - std::exchange(pressed_, now) < SlowestRepeat;
         repeats_ = std::exchange(code_, code) == code && soon;
-    } else if (type == wxEVT_KEY_UP) {
+    } else if (type == wxEVT_KEY_UP || type == wxEVT_LEFT_DOWN ||
+               (type == wxEVT_ACTIVATE && code_ != WXK_NONE &&
+                !wxGetKeyState(static_cast<wxKeyCode>(code_)))) {
         code_ = WXK_NONE;
     }
     return Event_Skip;

@@ -186,6 +186,8 @@ class ModifyProcedure : public Form, private RowsObserver {
     void Connect();
 
     void ConnectPositions();
+    // Gives each box its tip.
+    void TellBoxes();
     // False for a text that is no position, behind which nothing has changed.
     bool TakePosition(std::string_view text);
 

@@ -53,6 +53,14 @@ void ModifyProcedure::Connect() {
          }) {
         button.OnClick = run(operation);
     }
+    TellBoxes();
+    AirspeedText.OnChange = run(&Self::AirspeedText_Change);
+    RwySpecificCheck.OnClick = run(&Self::RwySpecificCheck_Click);
+    ConnectPositions();
+    WaypointList.OnClick = run(&Self::WaypointList_Click);
+}
+
+void ModifyProcedure::TellBoxes() {
     SetTips(
         {{AptNameText, "ICAO code of the airport, 4 characters: the file's name begins with it"},
          {BasicNameText, "Name of the procedure: up to 7 characters"},
@@ -67,10 +75,6 @@ void ModifyProcedure::Connect() {
          {Alt1Text, "Altitude, of a band the lower one: feet, up to 99999"},
          {Alt2Text, "Upper altitude of a band: feet, up to 99999"},
          {AirspeedText, "Airspeed at the waypoint: knots, up to 999"}});
-    AirspeedText.OnChange = run(&Self::AirspeedText_Change);
-    RwySpecificCheck.OnClick = run(&Self::RwySpecificCheck_Click);
-    ConnectPositions();
-    WaypointList.OnClick = run(&Self::WaypointList_Click);
 }
 
 std::vector<Shortcut> ModifyProcedure::Shortcuts() {
