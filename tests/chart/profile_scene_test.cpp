@@ -59,6 +59,10 @@ TEST_F(ProfileSceneTest, BetweenTwoGivenAltitudesStandsTheGradient) {
     // 2000 feet in 12 miles, then 1500 in 6 to the middle of the band.
     EXPECT_NE(Find("167 ft/NM  1.6°"), nullptr);
     EXPECT_NE(Find("250 ft/NM  2.4°"), nullptr);
+    Route level = Approach();
+    level.points[2].altitude = level.points[0].altitude;
+    Draw(level);
+    EXPECT_EQ(Find("0 ft/NM  0.0°"), nullptr);
 }
 
 TEST_F(ProfileSceneTest, ARowWithoutAnAltitudeStandsOpenOnTheLine) {

@@ -190,6 +190,7 @@ TEST_F(RowsHistoryTest, KeepsAThousandStepsInItsRoom) {
         rows.Replace(0, row);
     }
     EXPECT_LT(rows.History().Bytes(), RowsHistory::MaxBytes);
+    EXPECT_GT(rows.History().Bytes(), RowsHistory::MaxBytes - 2'100'000);
     EXPECT_FALSE(rows.History().LastStep().empty());
 }
 
