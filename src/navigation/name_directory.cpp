@@ -16,19 +16,34 @@ constexpr std::size_t IdentifierWidth = 5;
 // Tells nearly all identifiers that are none of some names without looking at these.
 class Sieve {
   public:
-    void Add(std::string_view name) { set_.set(Index(FixedField<IdentifierWidth>(name))); }
-    bool Holds(const FixedField<IdentifierWidth>& identifier) const {
-        return identifier.View().front() == ' ' || set_[Index(identifier)];
+    using Identifier = FixedField<IdentifierWidth>;
+
+    void Add(std::string_view name) {
+        const Identifier identifier(name);
+        beginnings_.set(Beginning(identifier));
+        wholes_.set(Index(identifier));
+    }
+    bool Holds(const Identifier& identifier) const {
+        return identifier.View().front() == ' ' ||
+               (beginnings_[Beginning(identifier)] && wholes_[Index(identifier)]);
     }
 
   private:
-    static std::size_t Index(const FixedField<IdentifierWidth>& identifier) {
+    using Set = std::bitset<std::size_t{1} << 16>;
+
+    static std::size_t Beginning(const Identifier& identifier) {
+        std::uint16_t characters = 0;
+        std::memcpy(&characters, identifier.View().data(), sizeof characters);
+        return characters;
+    }
+    static std::size_t Index(const Identifier& identifier) {
         std::uint64_t characters = 0;
         std::memcpy(&characters, identifier.View().data(), IdentifierWidth);
         return static_cast<std::size_t>(characters * 0x9E3779B97F4A7C15u >> 48);  // spreads them over 16 bits
     }
 
-    std::bitset<std::size_t{1} << 16> set_;
+    Set beginnings_;
+    Set wholes_;
 };
 
 }  // namespace
