@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "navigation/search_hit.h"
+
 namespace tarvex {
 namespace {
 
@@ -47,6 +49,22 @@ TEST(SearchTest, LooksAtTheLastEntryAndNotBehindIt) {
     EXPECT_EQ(FindEntries(tables, Fixes, "ABC"), std::vector<std::int32_t>{MaxFixes - 1});
     tables.FixCount = MaxFixes - 2;
     EXPECT_TRUE(FindEntries(tables, Fixes, "ABC").empty());
+}
+
+TEST(SearchHitTest, OfAnAirportTheRunwayAndItsElevationAreRemembered) {
+    SearchVariables variables;
+    SearchHit hit;
+    hit.table = Airports;
+    hit.identifier = "KXYZ27 ";
+    hit.elevation = "17";
+    Remember(hit, variables);
+    hit.table = Fixes;
+    hit.identifier = "FIX";
+    hit.position = {3, 4};
+    Remember(hit, variables);
+    EXPECT_EQ(variables.TransferID + variables.TransferValue, "KXYZ27 17");
+    EXPECT_EQ(variables.TransferLatDecimal, 3);
+    EXPECT_EQ(variables.TransferLongDecimal, 4);
 }
 
 }  // namespace

@@ -222,6 +222,7 @@ Road::State Road::StateOf(const Control& control) {
     if (const auto* button = dynamic_cast<const Button*>(&control)) {
         parts["tip"] = button->Tip().empty() ? "" : Quoted(button->Tip());
         parts["key"] = button->Key();
+        parts["repeats"] = button->Repeats() ? "repeats" : "";
     } else if (const auto* picture = dynamic_cast<const Picture*>(&control)) {
         parts["tip"] = Quoted(picture->Tip());
     } else if (const auto* option = dynamic_cast<const OptionButton*>(&control)) {
