@@ -52,16 +52,11 @@ TEST(SearchTest, LooksAtTheLastEntryAndNotBehindIt) {
 }
 
 TEST(SearchHitTest, OfAnAirportTheRunwayAndItsElevationAreRemembered) {
+    NavigationTables tables;
+    tables.AirportTable[0] = {"KXYZ27 ", "1", "2", 17};
+    tables.FixTable[0] = {"FIX", "3", "4"};
     SearchVariables variables;
-    SearchHit hit;
-    hit.table = Airports;
-    hit.identifier = "KXYZ27 ";
-    hit.elevation = "17";
-    Remember(hit, variables);
-    hit.table = Fixes;
-    hit.identifier = "FIX";
-    hit.position = {3, 4};
-    Remember(hit, variables);
+    for (const auto table : {Airports, Fixes}) Remember(HitAt(tables, table, 0).value(), variables);
     EXPECT_EQ(variables.TransferID + variables.TransferValue, "KXYZ27 17");
     EXPECT_EQ(variables.TransferLatDecimal, 3);
     EXPECT_EQ(variables.TransferLongDecimal, 4);
