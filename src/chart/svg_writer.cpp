@@ -2,13 +2,13 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <charconv>
 #include <cstdint>
 #include <numbers>
 #include <string_view>
 
 #include "chart/symbols.h"
+#include "toolkit/characters.h"
 
 namespace tarvex {
 
@@ -39,19 +39,10 @@ std::string ColourText(std::uint32_t colour) {
 // The length of the character in well-formed UTF-8 at the beginning of the text; 0 when there is none that
 // XML can hold.
 std::size_t CharacterLength(std::string_view text) {
-    const auto byte = [text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    if (byte(0) < 0x80) return byte(0) < ' ' ? 0 : 1;
-    const auto length = static_cast<std::size_t>(std::countl_one(byte(0)));
-    if (length < 2 || length > 4 || length > text.size()) return 0;
-    std::uint32_t character = byte(0) & (0x7Fu >> length);
-    for (std::size_t i = 1; i < length; ++i) {
-        if ((byte(i) & 0xC0) != 0x80) return 0;
-        character = character << 6 | (byte(i) & 0x3Fu);
-    }
-    constexpr std::array<std::uint32_t, 5> First = {0, 0, 0x80, 0x800, 0x10000};  // of each length
-    const bool surrogate = character >= 0xD800 && character < 0xE000;
-    const bool none = character == 0xFFFE || character == 0xFFFF || character > 0x10FFFF;
-    return character < First.at(length) || surrogate || none ? 0 : length;
+    const auto first = static_cast<unsigned char>(text.front());
+    if (first < 0x80) return first < ' ' ? 0 : 1;
+    const Utf8Character found = Utf8CharacterAt(text);
+    return found.character == 0xFFFE || found.character == 0xFFFF ? 0 : found.bytes;
 }
 
 std::string Escaped(std::string_view text) {

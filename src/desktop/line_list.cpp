@@ -57,7 +57,7 @@ LineList::LineList(wxWindow* parent, bool icons)
         Append(new wxDataViewIconTextRenderer, {}, 0, wxCOL_WIDTH_AUTOSIZE, false);
     } else {
         // A column that finds its own width would have every line laid out.
-        Append(new wxDataViewTextRenderer, {}, 0, GetCharWidth(), false);
+        Append(NewTextRenderer(), {}, 0, GetCharWidth(), false);
         LevelLines(*this);
     }
 }
@@ -66,7 +66,7 @@ LineList::LineList(wxWindow* parent, const std::vector<Column>& columns, bool bl
     : LineList(parent, blocks ? wxDV_MULTIPLE : wxDV_SINGLE,
                new Model(static_cast<unsigned>(columns.size()), false)) {
     for (unsigned i = 0; const Column& column : columns) {
-        Append(new wxDataViewTextRenderer, column.heading, i++, wxCOL_WIDTH_AUTOSIZE, column.number);
+        Append(NewTextRenderer(), column.heading, i++, wxCOL_WIDTH_AUTOSIZE, column.number);
     }
 }
 

@@ -1,15 +1,22 @@
 #include "desktop/window_system.h"
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 #include <wx/access.h>
 #include <wx/app.h>
+#include <wx/filename.h>
+#include <wx/filesys.h>
+#include <wx/log.h>
 #include <wx/settings.h>
+#include <wx/utils.h>
 
 #ifdef __WXGTK__
+#include <array>
 #include <gdk/gdkx.h>
 #include <gtk/gtk.h>
+#include <sys/wait.h>
 #endif
 
 namespace tarvex {
@@ -167,6 +174,36 @@ void MarkEdge(wxDataViewCtrl& list, int line, bool below) {
     gtk_tree_path_free(path);
 }
 
+wxDataViewTextRenderer* NewTextRenderer() {
+    return new wxDataViewTextRenderer;
+}
+
+bool OpenDocument(const std::string& path) {
+    std::string opened = path;
+    std::string opener = "xdg-open";
+    const std::array<char*, 3> words = {opener.data(), opened.data(), nullptr};
+    constexpr auto flags = static_cast<GSpawnFlags>(G_SPAWN_SEARCH_PATH | G_SPAWN_DO_NOT_REAP_CHILD |
+                                                    G_SPAWN_STDOUT_TO_DEV_NULL | G_SPAWN_STDERR_TO_DEV_NULL);
+    GPid child = 0;
+    if (g_spawn_async(nullptr, const_cast<char**>(words.data()), nullptr, flags, nullptr, nullptr, &child,
+                      nullptr) == FALSE) {
+        const std::unique_ptr<char, decltype(&g_free)> uri(g_filename_to_uri(path.c_str(), nullptr, nullptr),
+                                                           g_free);
+        return uri && gtk_show_uri_on_window(nullptr, uri.get(), GDK_CURRENT_TIME, nullptr) != FALSE;
+    }
+    // It soon tells that nothing opens the file. One that stays has become the viewer.
+    constexpr int Looks = 100;
+    constexpr gulong Pause = 10'000;  // microseconds
+    for (int look = 0; look < Looks; ++look) {
+        int status = 0;
+        if (waitpid(child, &status, WNOHANG) == child) return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+        g_usleep(Pause);
+    }
+    g_child_watch_add(
+        child, [](GPid, gint, gpointer) {}, nullptr);
+    return true;
+}
+
 double DotsPerInch() {
     constexpr double Usual = 96;
     const double known = gdk_screen_get_resolution(gdk_screen_get_default());
@@ -199,6 +236,14 @@ class NamedAccess final : public wxAccessible {
   private:
     wxString name_;
     wxString description_;
+};
+
+class RoomyTextRenderer final : public wxDataViewTextRenderer {
+  public:
+    // What draws the text leaves a margin on both sides, which what measures it leaves out.
+    wxSize GetSize() const override {
+        return wxDataViewTextRenderer::GetSize() + wxSize(GetView()->GetCharWidth(), 0);
+    }
 };
 
 }  // namespace
@@ -280,6 +325,15 @@ void MarkEdge(wxDataViewCtrl& list, int line, bool below) {
     const int thickness = list.FromDIP(Thickness);
     mark->SetSize(0, std::max(0, edge.y - thickness / 2), lines->GetClientSize().x, thickness);
     mark->Show();
+}
+
+wxDataViewTextRenderer* NewTextRenderer() {
+    return new RoomyTextRenderer;
+}
+
+bool OpenDocument(const std::string& path) {
+    const wxLogNull quiet;
+    return wxLaunchDefaultBrowser(wxFileName::FileNameToURL(wxFileName(wxString::FromUTF8(path))));
 }
 
 #endif

@@ -47,6 +47,13 @@ void HoldMouse(wxDataViewCtrl& list, bool hold);
 // Marks an edge of a line, as the place for what is dropped there, and no other; -1: none.
 void MarkEdge(wxDataViewCtrl& list, int line, bool below);
 
+// Of a text in a list; it asks for the room that its text is drawn in.
+wxDataViewTextRenderer* NewTextRenderer();
+
+// Opens a file, by its path as the system writes it, with what the user has chosen for its kind; false where
+// nothing opens it. Waits for no viewer, and at most a second for the answer.
+bool OpenDocument(const std::string& path);
+
 #ifdef __WXGTK__
 // By which the system makes pixels of a font's points; higher where the user wants larger letters.
 double DotsPerInch();

@@ -217,7 +217,6 @@ class ModifyProcedure : public Form, private RowsObserver {
             std::string degrees;
             std::string minutes;
             bool positive = false;
-            bool IsFilled() const { return !degrees.empty() || !minutes.empty(); }
             friend bool operator==(const Axis&, const Axis&) = default;
         };
         Axis latitude;

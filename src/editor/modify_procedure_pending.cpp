@@ -39,7 +39,7 @@ void ModifyProcedure::ShowPending() {
     using namespace editor_messages;
     const Held held = HeldByBoxes();
     if (WaypointList.ListIndex() == ListBox::NoSelection) {
-        const bool any = held.latitude.IsFilled() || held.longitude.IsFilled() ||
+        const bool any = Latitude.IsFilled() || Longitude.IsFilled() ||
                          std::any_of(held.texts.begin(), held.texts.end(),
                                      [](const std::string& text) { return !text.empty(); });
         PendingLabel.SetCaption(any ? NotInTheProcedure : "");

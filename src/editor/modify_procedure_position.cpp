@@ -21,10 +21,6 @@ void FillAxis(const CoordinateGroup& axis, double coordinate) {
     axis.Fill(NumberText(degrees), NumberText((minutes - degrees * 60 * Fine) / Fine), coordinate < 0);
 }
 
-bool IsFilled(const CoordinateGroup& axis) {
-    return !axis.degrees.Text().empty() || !axis.minutes.Text().empty();
-}
-
 // The beginning of a text, in one line.
 std::string Excerpt(std::string_view text) {
     constexpr std::size_t LookedAt = 1000;
@@ -72,8 +68,8 @@ void ModifyProcedure::PastePosition() {
 }
 
 void ModifyProcedure::CopyPosition() {
-    const auto position = IsFilled(Latitude) && IsFilled(Longitude) ? RoutePointOf(BoxesAsRow()).position
-                                                                    : std::optional<Position>();
+    const auto position = Latitude.IsFilled() && Longitude.IsFilled() ? RoutePointOf(BoxesAsRow()).position
+                                                                      : std::optional<Position>();
     if (position) {
         workplace_.platform.clipboard.Copy(PositionText(*position));
     } else {

@@ -20,10 +20,6 @@ Position PositionAt(const RhumbPoint& point) {
     return {point.latitude * DegreesPerRadian, -point.longitude * DegreesPerRadian};
 }
 
-bool IsFilled(const CoordinateGroup& axis) {
-    return !axis.degrees.Text().empty() || !axis.minutes.Text().empty();
-}
-
 // Minutes in the boxes have at most six decimals, those worked out from a row may have lost some more.
 bool IsOnePlace(const Position& a, const Position& b) {
     constexpr double Same = 2e-6;  // degrees
@@ -32,7 +28,7 @@ bool IsOnePlace(const Position& a, const Position& b) {
 
 // A selected row stands in the boxes itself until one of them is changed.
 std::optional<RoutePoint> WaypointInBoxes(const ModifyProcedure& editor, const Route& route) {
-    if (!IsFilled(editor.Latitude) || !IsFilled(editor.Longitude)) return std::nullopt;
+    if (!editor.Latitude.IsFilled() || !editor.Longitude.IsFilled()) return std::nullopt;
     RoutePoint point = RoutePointOf(editor.BoxesAsRow());
     if (!point.position) return std::nullopt;
     const auto row = static_cast<std::size_t>(editor.WaypointList.ListIndex());

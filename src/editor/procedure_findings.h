@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,8 +31,8 @@ class ProcedureFindings {
 
   private:
     struct Seen {
-        int changes = -1;
-        int tables = -1;
+        int changes;
+        int tables;
         std::string fileName;
         friend bool operator==(const Seen&, const Seen&) = default;
     };
@@ -41,7 +42,7 @@ class ProcedureFindings {
 
     ModifyProcedure& editor_;
     SharedState& state_;
-    Seen seen_;
+    std::optional<Seen> seen_;
     std::vector<Finding> findings_;
 };
 

@@ -136,8 +136,8 @@ void ProcedurePicture::FollowView() {
     if (room.width <= 0 || room.height <= 0) return;
     const bool resized = view_ && view_->size != room;
     if (resized) view_->size = room;
-    const bool outside = !ShowsNewRows();
-    const bool news = !newRows_.empty() || resized || planShown_.rows != rows_;
+    const bool outside = view_ && !ShowsNewRows();
+    const bool news = !newRows_.empty() || resized || !planShown_ || planShown_->rows != rows_;
     newRows_.clear();
     const bool rowsHaveNoPlace = PositionsOf(route_).empty();
     if (!view_ || outside || (!moved_ && (news || rowsHaveNoPlace))) FitPlan();
@@ -166,7 +166,6 @@ void ProcedurePicture::FitProfile() {
 }
 
 bool ProcedurePicture::ShowsNewRows() const {
-    if (!view_) return true;
     const Projection map(*view_);
     return std::all_of(newRows_.begin(), newRows_.end(), [&](int row) {
         const auto position = PositionOf({Target::Kind::Row, row}, route_, state_.Navigation);
@@ -198,7 +197,7 @@ PlanContent ProcedurePicture::Content() const {
 void ProcedurePicture::ShowPlan() {
     const Size room = PlanPicture.Room();
     if (room.width <= 0 || room.height <= 0) return;
-    const PlanShown shown{rows_, tables_, SelectedRow(), drafts_, found_.hits, marked_, view_};
+    const PlanShown shown{rows_, state_.NavigationLoads, SelectedRow(), drafts_, found_.hits, marked_, view_};
     if (shown == planShown_ && PlanPicture.Shown().size == room) return;
     planShown_ = shown;
     PlanPicture.SetDrawing(view_ ? PlanScene(*view_, Content(), workplace_.platform.pictures)

@@ -53,9 +53,9 @@ class ProcedurePicture {
   private:
     // All that the chart, and the profile, depends on.
     struct PlanShown {
-        int rows = -1;
-        int tables = -1;
-        int selected = -1;
+        int rows;
+        int tables;
+        int selected;
         PlanDrafts drafts;
         std::vector<Target> hits;
         Target marked;
@@ -63,8 +63,8 @@ class ProcedurePicture {
         friend bool operator==(const PlanShown&, const PlanShown&) = default;
     };
     struct ProfileShown {
-        int rows = -1;
-        int selected = -1;
+        int rows;
+        int selected;
         ProfileView view;
         Size room;
         friend bool operator==(const ProfileShown&, const ProfileShown&) = default;
@@ -110,16 +110,16 @@ class ProcedurePicture {
     EditorTools tools_;
 
     Route route_;
-    int rows_ = 0;              // counts the changes of the rows
-    int routeOf_ = -1;          // which of them the route shows
-    std::vector<int> newRows_;  // since the last update
-    std::vector<int> block_;    // to be selected in LegsList by the next update ...
-    int anchor_ = 0;            // ... and extended from there
+    int rows_ = 0;                // counts the changes of the rows
+    std::optional<int> routeOf_;  // which of them the route shows
+    std::vector<int> newRows_;    // since the last update
+    std::vector<int> block_;      // to be selected in LegsList by the next update ...
+    int anchor_ = 0;              // ... and extended from there
     PlanDrafts drafts_;
     SearchTargets found_;
     Target marked_;
     Target pointed_;
-    int tables_ = -1;
+    std::optional<int> tables_;
 
     std::optional<PlanView> view_;  // none as long as there is nothing to show
     bool moved_ = false;            // by the user
@@ -128,8 +128,8 @@ class ProcedurePicture {
     std::string airportName_;
     std::optional<Position> airport_;
 
-    PlanShown planShown_;
-    ProfileShown profileShown_;
+    std::optional<PlanShown> planShown_;
+    std::optional<ProfileShown> profileShown_;
 };
 
 }  // namespace tarvex

@@ -24,6 +24,7 @@ struct CoordinateGroup {
     void Fill(std::string_view degreesText, std::string_view minutesText, bool isNegative) const;
     // The text of the degrees with "-" in front for the south and the west.
     std::string SignedDegrees() const;
+    bool IsFilled() const { return !degrees.Text().empty() || !minutes.Text().empty(); }
     // The magnitude in decimal degrees, by the numbers that the boxes begin with.
     double Magnitude() const;
 };

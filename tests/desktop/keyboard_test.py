@@ -127,6 +127,11 @@ class Keyboard(WindowTest):
         program.window("Tarvex")
         key("F1")
         until(lambda: opened.exists() and opened.read_text() == f"{guide}\n", "the guide in the browser")
+        browser.write_text("#!/bin/sh\nexit 3\n")
+        key("F1")
+        box = program.window("The guide to Tarvex")
+        self.assertEqual(box.message(), f"No browser opens the guide. It lies here:\n{guide}")
+        box.answer("OK")
 
         key("3")
         editor = program.window("Create a Procedure")

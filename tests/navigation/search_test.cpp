@@ -53,10 +53,14 @@ TEST(SearchTest, LooksAtTheLastEntryAndNotBehindIt) {
 
 TEST(SearchHitTest, OfAnAirportTheRunwayAndItsElevationAreRemembered) {
     NavigationTables tables;
-    tables.AirportTable[0] = {"KXYZ27 ", "1", "2", 17};
-    tables.FixTable[0] = {"FIX", "3", "4"};
+    tables.AirportTable[1] = {"KXYZ27 ", "1", "2", 17};
+    tables.FixTable[1] = {"FIX", "3", "4"};
     SearchVariables variables;
-    for (const auto table : {Airports, Fixes}) Remember(HitAt(tables, table, 0).value(), variables);
+    for (const auto table : {Airports, Fixes}) {
+        const SearchHit hit = HitAt(tables, table, 1).value();
+        EXPECT_EQ(hit.SelectedRow, 1);
+        Remember(hit, variables);
+    }
     EXPECT_EQ(variables.TransferID + variables.TransferValue, "KXYZ27 17");
     EXPECT_EQ(variables.TransferLatDecimal, 3);
     EXPECT_EQ(variables.TransferLongDecimal, 4);

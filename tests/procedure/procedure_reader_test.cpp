@@ -28,8 +28,10 @@ class ProcedureReader : public ::testing::Test {
         state.Rows.Assign(before);
         files.Put(Path, text);
         try {
-            ReadProcedureFile(files, state, state.ProgramVersion, state.Navigation, state.Rows);
-            return std::to_string(state.WaypointCount);
+            const auto count =
+                ReadProcedureFile(files, state, state.ProgramVersion, state.Navigation, state.Rows);
+            EXPECT_EQ(count, state.WaypointCount);
+            return std::to_string(count);
         } catch (const Failure& failure) {
             EXPECT_EQ(state.WaypointCount, 1);
             EXPECT_EQ(state.WaypointTable[0], before[0]);
