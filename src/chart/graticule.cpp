@@ -188,9 +188,9 @@ void DrawScaleBar(PlanSketch& sketch) {
         if (!sketch.Room().IsFree(box, PictureRoom::Over::Symbols)) continue;
         sketch.Room().Take(box);
         const double end = left.x + length;
-        sketch.AddLine(PlanSketch::Layer::Symbols,
-                       {{left.x, left.y - Tick}, left, {end, left.y}, {end, left.y - Tick}},
-                       {.role = Role::Scale});
+        sketch.AddFigure(PlanSketch::Layer::Symbols,
+                         {.points = {{left.x, left.y - Tick}, left, {end, left.y}, {end, left.y - Tick}},
+                          .role = Role::Scale});
         words.at = {end + Gap, left.y - Tick / 2};
         sketch.AddWords(words);
         return;

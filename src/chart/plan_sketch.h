@@ -25,6 +25,8 @@ class PlanSketch {
     const Projection& Map() const { return map_; }
     PictureRoom& Room() { return room_; }
 
+    // A line that is none of the earth, all of it within the picture.
+    void AddFigure(Layer layer, const Line& line) { ItemsOf(layer).emplace_back(line); }
     // The parts of a line within the picture, drawn like `style`. Where it leaps from one side of the earth's
     // rim to the other it's broken.
     void AddLine(Layer layer, const std::vector<Point>& points, const Line& style);

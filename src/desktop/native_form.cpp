@@ -113,8 +113,8 @@ NativeForm::NativeForm(Desktop& desktop, Form& form, wxWindow* owner)
     SetExtraStyle(GetExtraStyle() | wxWS_EX_BLOCK_EVENTS);
     NameForAccess(*this, form.Name(), {});
     SetIcons(ProgramIcons());
-    ShowCaption();
-    form.Observe([this] { ShowCaption(); });
+    // A window without any title is shown as unnamed by some window managers.
+    SetTitle(form.Caption().empty() ? wxString(" ") : Shown(form.Caption()));
     Bind(wxEVT_CHAR_HOOK, &NativeForm::OnKey, this);
     Bind(wxEVT_CHILD_FOCUS, &NativeForm::OnArrival, this);
     Bind(wxEVT_ACTIVATE, &NativeForm::OnActivate, this);
@@ -127,14 +127,8 @@ NativeForm::~NativeForm() {
     DestroyChildren();
 }
 
-void NativeForm::ShowCaption() {
-    // A window without any title is shown as unnamed by some window managers.
-    SetTitle(form_->Caption().empty() ? wxString(" ") : Shown(form_->Caption()));
-}
-
 void NativeForm::Detach() {
     for (Control* control : form_->Controls()) control->Observe(nullptr);
-    form_->Observe(nullptr);
     form_ = nullptr;
     touched_.clear();
 }

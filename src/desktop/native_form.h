@@ -82,7 +82,6 @@ class NativeForm final : public wxFrame {
     void OnArrival(wxChildFocusEvent& event);
     void OnActivate(wxActivateEvent& event);
     void OnClose(wxCloseEvent& event);
-    void ShowCaption();
 
     Desktop& desktop_;
     Form* form_;

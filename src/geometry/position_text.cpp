@@ -224,7 +224,7 @@ bool IsPlain(const std::pair<Half, Half>& halves) {
 }
 
 Halves Split(std::string_view text) {
-    if (text.find_first_of("NSEW") != std::string_view::npos) return SplitByLetters(text);
+    if (text.find_first_of("NS") != std::string_view::npos) return SplitByLetters(text);
     for (const char parting : {';', '/', ','}) {
         const std::size_t at = text.find(parting);
         if (at == std::string_view::npos) continue;

@@ -10,12 +10,6 @@ namespace tarvex {
 Form::Form(FormHost& host, std::string_view name, std::string_view caption)
     : host_(host), name_(name), caption_(caption) {}
 
-void Form::SetCaption(std::string_view caption) {
-    if (caption_ == caption) return;
-    caption_ = caption;
-    if (observer_) observer_();
-}
-
 void Form::Hide() {
     if (FormSlotBase* slot = host_.SlotOf(*this)) slot->Hide();
 }

@@ -34,7 +34,8 @@ class Form {
     FormHost& Host() const { return host_; }
     const std::string& Name() const { return name_; }
     const std::string& Caption() const { return caption_; }
-    void SetCaption(std::string_view caption);
+    // In Form_Load: a form that is on the screen keeps its caption.
+    void SetCaption(std::string_view caption) { caption_ = caption; }
     bool Visible() const { return visible_; }
 
     // In the order of their making.
@@ -60,9 +61,6 @@ class Form {
     // Tells each button the name of its key.
     void NameKeys();
 
-    // Called after every change of the caption; for the native window.
-    void Observe(std::function<void()> observer) { observer_ = std::move(observer); }
-
     virtual void Form_Load() {}
     virtual void Form_Unload() {}
     // Behind each event of the outside world while the form is on the screen: brings up to date what only
@@ -82,7 +80,6 @@ class Form {
     bool visible_ = false;
     std::vector<Control*> controls_;
     Control* lastFocus_ = nullptr;  // the control that had the focus last on this form
-    std::function<void()> observer_;
 };
 
 }  // namespace tarvex

@@ -105,7 +105,7 @@ class Road : FormObserver {
     static State StateOf(const Control& control);
     static std::string Told(const Control& control);
 
-    std::map<const Form*, std::map<const Control*, State>> copies_;  // with the form's caption under null
+    std::map<const Form*, std::map<const Control*, State>> copies_;
     std::string trace_;
     std::string place_;
     std::string acted_;  // the control that the last act must leave the focus on, unless told otherwise

@@ -98,8 +98,6 @@ void Road::FormShown(Form& form) {
     const auto [entry, isNew] = copies_.try_emplace(&form);
     if (!isNew) return;
     auto& copies = entry->second;
-    copies[nullptr].text = form.Caption();
-    form.Observe([&copies, &form] { copies[nullptr].text = form.Caption(); });
     for (Control* control : form.Controls()) {
         copies[control] = StateOf(*control);
         control->Observe([&copies, control] { copies[control] = StateOf(*control); });
@@ -107,7 +105,6 @@ void Road::FormShown(Form& form) {
 }
 
 void Road::FormUnloaded(Form& form) {
-    form.Observe(nullptr);
     for (Control* control : form.Controls()) control->Observe(nullptr);
     copies_.erase(&form);
 }
@@ -116,8 +113,7 @@ std::string Road::Untold() const {
     std::string untold;
     for (const auto& [form, copies] : copies_) {
         for (const auto& [control, copy] : copies) {
-            const bool same = control == nullptr ? copy.text == form->Caption() : copy == StateOf(*control);
-            if (!same) untold += (control == nullptr ? form->Name() : control->Name()) + " ";
+            if (copy != StateOf(*control)) untold += control->Name() + " ";
         }
     }
     return untold;

@@ -332,6 +332,7 @@ TEST_F(FormsTest, TypingIsCutAtTheLimitAndTakingAwayIsFree) {
     EXPECT_EQ(typed("AxCDEFGHI"), "ABCDEFGHI") << "an exchange that has no room changes nothing";
     a->Box.SetText("13");
     EXPECT_EQ(typed("1223"), "123");
+    EXPECT_EQ(typed("1xyz"), "1xy");
     a->Box.SetText("aa");
     EXPECT_EQ(typed("aaaa"), "aaa");
     a->Box.SetText("A       ");

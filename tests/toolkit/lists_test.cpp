@@ -74,9 +74,10 @@ TEST_F(ListsTest, DriveListTakesKnownDrivesInAnyForm) {
         EXPECT_EQ(NumberOf([&] { list.SetDrive(unknown); }), PathNotFound) << unknown;
     }
     EXPECT_EQ(list.Drive(), "D:\\");
-    files.SetDrives({"C:\\", "\\"});
+    files.SetDrives({"D:\\", "\\"});
     slot.Unload();
     slot.Show();
+    EXPECT_EQ(Form().Drive.Drive(), "D:\\") << "the first, where the current folder is on none";
     Form().Drive.SetDrive("\\home");
     EXPECT_EQ(Form().Drive.Drive(), "\\") << "a root without drives";
 }
