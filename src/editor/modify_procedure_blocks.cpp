@@ -39,7 +39,6 @@ void ModifyProcedure::ArrangeBlock(const std::vector<int>& order) {
     state_.Rows.Arrange(order, block.front());
     WaypointList.SetListIndex(current);
     std::ranges::transform(block, block.begin(), behind);
-    std::ranges::sort(block);
     Pictures.KeepBlock(std::move(block), anchor);
 }
 

@@ -56,7 +56,7 @@ std::vector<Position> ArcOf(const AddARC& designer) {
             points.push_back(PositionAt(point.position));
         }
     } catch (const Failure&) {
-        points.clear();  // a radial of more than 360 degrees, which the designer complains about itself
+        // A radial of more than 360 degrees, which the designer complains about itself.
     }
     return points;
 }

@@ -1,5 +1,6 @@
 #include "toolkit/control.h"
 
+#include "toolkit/failure.h"
 #include "toolkit/form.h"
 #include "toolkit/form_host.h"
 #include "toolkit/simple_controls.h"
@@ -35,6 +36,10 @@ void Control::SetFocus() {
 
 bool Control::HasFocus() const {
     return form_.Host().GetFocus().Current() == this;
+}
+
+void Control::RequireIndex(bool isThere) const {
+    if (!isThere) throw Failure(BadArgument, name_ + " has nothing of that number");
 }
 
 }  // namespace tarvex

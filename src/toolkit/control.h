@@ -66,6 +66,8 @@ class Control {
     void Changed() const {
         if (observer_) observer_();
     }
+    // Fails with BadArgument unless what an index stands for is there.
+    void RequireIndex(bool isThere) const;
     static void Run(const std::function<void()>& rule) {
         if (rule) rule();
     }

@@ -123,8 +123,7 @@ void FolderList::GoTo(std::string target) {
 }
 
 std::string FolderList::List(int index) const {
-    if (index < FirstIndex() || index >= ListCount())
-        throw Failure(BadArgument, Name() + " has no such line");
+    RequireIndex(index >= FirstIndex() && index < ListCount());
     if (index == OpenFolder) return path_;
     if (index < OpenFolder) return above_[static_cast<std::size_t>(OpenFolder - 1 - index)];
     return Joined(path_, below_[static_cast<std::size_t>(index)]);
@@ -136,8 +135,7 @@ std::string FolderList::Name(int index) const {
 }
 
 void FolderList::SetListIndex(int index) {
-    if (index < FirstIndex() || index >= ListCount())
-        throw Failure(BadArgument, Name() + " has no such line");
+    RequireIndex(index >= FirstIndex() && index < ListCount());
     if (listIndex_ == index) return;
     listIndex_ = index;
     Changed();
@@ -183,9 +181,7 @@ void FileList::Narrow() {
 }
 
 void FileList::SetListIndex(int index) {
-    if (index < -1 || index >= static_cast<int>(lines_.size())) {
-        throw Failure(BadArgument, Name() + " has no such line");
-    }
+    RequireIndex(index >= -1 && index < static_cast<int>(lines_.size()));
     if (listIndex_ == index) return;
     listIndex_ = index;
     Changed();

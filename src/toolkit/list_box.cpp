@@ -6,12 +6,10 @@
 #include <numeric>
 #include <utility>
 
-#include "toolkit/failure.h"
-
 namespace tarvex {
 
 void ListBox::SetListIndex(int index) {
-    if (index < NoSelection || index >= ListCount()) throw Failure(BadArgument, Name() + " has no such line");
+    RequireIndex(index >= NoSelection && index < ListCount());
     SetSelected(index == NoSelection ? std::vector<int>() : std::vector{index}, index);
 }
 
@@ -23,9 +21,7 @@ std::vector<int> ListBox::Selected() const {
 void ListBox::SetSelected(std::vector<int> lines, int index, int anchor) {
     const bool rising = std::adjacent_find(lines.begin(), lines.end(), std::greater_equal()) == lines.end();
     const bool there = lines.empty() || (lines.front() >= 0 && lines.back() < ListCount());
-    if (!rising || !there || std::binary_search(lines.begin(), lines.end(), index) == lines.empty()) {
-        throw Failure(BadArgument, Name() + " has no such lines");
-    }
+    RequireIndex(rising && there && std::binary_search(lines.begin(), lines.end(), index) != lines.empty());
     if (lines.size() < 2) lines.clear();
     anchor_ = anchor;
     if (listIndex_ == index && block_ == lines) return;
@@ -57,7 +53,7 @@ void ListBox::AddItem(std::string_view text) {
 }
 
 void ListBox::AddItem(std::string_view text, int index) {
-    if (index < 0 || index > ListCount()) throw Failure(BadArgument, Name() + " has no such line");
+    RequireIndex(index >= 0 && index <= ListCount());
     lines_.emplace(lines_.begin() + index, text);
     block_.clear();
     if (listIndex_ >= index) ++listIndex_;
@@ -66,7 +62,7 @@ void ListBox::AddItem(std::string_view text, int index) {
 }
 
 void ListBox::RemoveItem(int index) {
-    if (index < 0 || index >= ListCount()) throw Failure(BadArgument, Name() + " has no such line");
+    RequireIndex(index >= 0 && index < ListCount());
     lines_.erase(lines_.begin() + index);
     block_.clear();
     if (listIndex_ == index) {

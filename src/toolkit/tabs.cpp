@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "toolkit/failure.h"
-
 namespace tarvex {
 
 Tabs::Tabs(Form& form, std::string_view name, std::vector<Page> pages, int tabIndex)
@@ -19,9 +17,7 @@ void Tabs::SetCaption(int page, std::string_view caption) {
 }
 
 void Tabs::SetIndex(int index) {
-    if (index < 0 || index >= static_cast<int>(pages_.size())) {
-        throw Failure(BadArgument, Name() + " has no such page");
-    }
+    RequireIndex(index >= 0 && index < static_cast<int>(pages_.size()));
     if (index_ == index) return;
     index_ = index;
     ShowContent();

@@ -93,8 +93,14 @@ TEST_F(ProcedurePictureTest, AClickOnAnEntryMarksItAndLeavesWhatWasTyped) {
     EXPECT_TRUE(door().Choose(plan(), At(plan(), Navaid)));
     EXPECT_EQ(Boxes(), typed);
     EXPECT_TRUE(pictures().PictureLabel.Caption().starts_with("LAX"));
+    EXPECT_EQ(plan().Tip(), "");
+    door().PointAt(plan(), At(plan(), Navaid));
+    EXPECT_EQ(plan().Tip(), pictures().PictureLabel.Caption());
     door().Choose(plan(), At(plan(), None));
-    EXPECT_EQ(pictures().PictureLabel.Caption(), "");
+    door().PointAt(plan(), std::nullopt);
+    EXPECT_EQ(pictures().PictureLabel.Caption() + plan().Tip(), "");
+    road.Do("CreateWaypointCommand");
+    EXPECT_EQ(road.program->state.SearchKind, "CW");
 }
 
 TEST_F(ProcedurePictureTest, WhatIsTakenIsWhatTheSearchTransfers) {

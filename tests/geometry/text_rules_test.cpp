@@ -31,6 +31,7 @@ TEST(LeadingNumberTest, ReadsWhatTheTextBeginsWith) {
     EXPECT_EQ(LeadingNumber("-1d99999999999999999999"), -Infinity);
     EXPECT_EQ(LeadingNumber(std::string(400, '9') + "e-400"), 1);
     EXPECT_EQ(LeadingNumber("." + std::string(400, '0') + "1e401"), 1);
+    EXPECT_EQ(LeadingNumber("." + std::string(400, '0') + "1e50"), 0);
     EXPECT_EQ(LeadingNumber("&H" + std::string(400, 'F')), Infinity);
 }
 
@@ -153,8 +154,9 @@ TEST(TextPartsTest, CutTrimAndFind) {
     EXPECT_EQ(Mid("ABC", 4), "");
     EXPECT_EQ(Mid("ABC", 9, 2), "");
     EXPECT_EQ(NumberOf([] { Left("ABC", -1); }), BadArgument);
-    EXPECT_EQ(NumberOf([] { Mid("ABC", 0); }), BadArgument);
-    EXPECT_EQ(NumberOf([] { Mid("ABC", 1, -1); }), BadArgument);
+    EXPECT_EQ(FailureOf([] { Mid("ABC", 0); }).Reason(), "positions in a text count from 1");
+    EXPECT_EQ(FailureOf([] { Mid("ABC", 1, -1); }).Reason(),
+              "a part of a text cannot have a negative length");
     const std::pair<std::ptrdiff_t, std::ptrdiff_t> dashes[] = {{1, 5}, {6, 7}, {8, 0}, {99, 0}};
     for (const auto& [start, place] : dashes) EXPECT_EQ(Find(start, "KJFK-A-B", "-"), place);
 

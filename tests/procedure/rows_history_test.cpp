@@ -161,7 +161,8 @@ TEST_F(RowsHistoryTest, DropsABlockAsItsRowsMoveOneByOne) {
     }
     for (const std::vector<int>& order : {std::vector{0}, {0, 0}, {0, 2}, {-1, 0}}) {
         rows.Assign(std::vector<WaypointRecord>(2));
-        EXPECT_EQ(testing::NumberOf([&] { rows.Arrange(order, 0); }), BadArgument);
+        EXPECT_EQ(testing::FailureOf([&] { rows.Arrange(order, 0); }).Reason(),
+                  "this is no order of the rows");
     }
 }
 
@@ -205,6 +206,18 @@ TEST_F(RowsHistoryTest, EndsWithAChangeOutsideOfSteps) {
         EXPECT_EQ(rows.History().LastStep(), "");
         EXPECT_EQ(rows.Undo(), std::nullopt);
     }
+}
+
+TEST_F(RowsHistoryTest, RefusesRowsThatAreNotThere) {
+    const auto reason = [](auto change) { return testing::FailureOf(change).Reason(); };
+    rows.Assign(std::vector<WaypointRecord>(MaxWaypoints));
+    EXPECT_EQ(reason([&] { rows.Append(Row(), ""); }), "the procedure has no row left");
+    EXPECT_EQ(reason([&] { rows.Assign(std::vector<WaypointRecord>(MaxWaypoints + 1)); }),
+              "the procedure has no room for so many rows");
+    rows.Assign({});
+    const std::function<void()> changes[] = {[&] { rows.Replace(0, Row()); }, [&] { rows.Erase(0); },
+                                             [&] { rows.Exchange(0, 0); }, [&] { rows.Arrange({}, 0); }};
+    for (const auto& change : changes) EXPECT_EQ(reason(change), "the procedure has no such row");
 }
 
 }  // namespace

@@ -111,10 +111,15 @@ TEST_F(SampleTest, ItsPicturesStayAsTheyAre) {
          "TrueCourseText=300 | DistText=25"},
         {"CreateSTAR", "airport", "AptNameText=KSFO | FindFixCommand | SearchText=BRIXX | SearchCommand"},
         {"CreateDP", "pole",
-         "NLatOption | FixNameText=A | DDMLatText=89 | DMMLatText=30 | DDMLongText=10 | DMMLongText=0 | "
+         "AptNameText=KXYZ | BasicNameText=POLE | TransitionText=NORTH | NLatOption | FixNameText=A | "
+         "DDMLatText=89 | DMMLatText=30 | DDMLongText=10 | DMMLongText=0 | "
          "Alt1Text=1 | AtAboveOption | AddWaypointCommand | FixNameText=B | DDMLatText=88 | DMMLatText=0 | "
          "DDMLongText=179 | DMMLongText=30 | AirspeedText=1 | AddWaypointCommand | FixNameText=C | "
          "DDMLatText=87 | DMMLatText=0 | DDMLongText=120 | DMMLongText=0 | AddWaypointCommand"},
+        {"CreateSTAR", "arced",
+         "AddArcCommand | Command1 | SearchText=LAX | SearchCommand | AddWaypoint | ArcStartText=30 | "
+         "ArcEndText=110 | ArcRadiusText=9 | RightOption | Yes | TransferCommand | ZoomOutCommand | "
+         "ZoomOutCommand | ZoomOutCommand"},
         {"CreateIAP", "south",
          "SLatOption | FixNameText=A | DDMLatText=17 | DMMLatText=30 | DDMLongText=179 | DMMLongText=58 | "
          "Alt1Text=3000 | AtOption | AddWaypointCommand | SLatOption | ELongOption | FixNameText=B | "

@@ -198,7 +198,8 @@ class Walk {
         } else if (what == "+") {
             services.files.Put(file_, services.files.Content(file_) + Road::Unwritten(rest) + "\r\n");
         } else if (what == "*") {
-            const std::string repeated = rest.substr(std::min(words[1].size() + 1, rest.size())) + "\r\n";
+            const std::string repeated =
+                Road::Unwritten(rest.substr(std::min(words[1].size() + 1, rest.size()))) + "\r\n";
             std::string text = services.files.Content(file_);
             for (int left = std::stoi(words[1]); left > 0; --left) text += repeated;
             services.files.Put(file_, text);

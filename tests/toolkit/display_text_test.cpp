@@ -36,6 +36,7 @@ TEST(DisplayTextTest, TypingKeepsTheBytesThatWereThere) {
         {"", U"caf\u00E9 \u20AC", "caf\xE9 \x80"},
         {"caf\xC3\xA9", U"caf\u00E9s", "caf\xC3\xA9s"},
         {"\xC3\xA9x\xE9", U"\u00E9\u00E9", "\xC3\xA9\xE9"},
+        {"ac\xC3\xA9", U"abc\u00E9", "abc\xC3\xA9"},
         {"aaa", U"aa", "aa"},
         {"abc", U"a\u4E2Dbc", "abc"},  // no such letter in the code page
         {"a\x01z", U"a\u2401yz", "a\x01yz"},

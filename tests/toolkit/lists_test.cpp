@@ -83,11 +83,11 @@ TEST_F(ListsTest, DriveListTakesKnownDrivesInAnyForm) {
 }
 
 TEST_F(ListsTest, FileListNarrowsByTheBeginningOfNamesAndTellsTheNameClicked) {
-    for (const char* name : {"KXYZ-B.wsd", "kxyz-a.wsd", "K*-C.wsd", "KABC-A.wsd", "readme"}) {
+    for (const char* name : {"KXYZ-B.wsd", "kxyz-a.wsd", "K*-C.wsd", "KABC-A.wsd", "README2", "readme"}) {
         files.Put("C:\\Sids\\" + std::string(name), "");
     }
     files.PutFolder("C:\\Sids\\folder");
-    const Names all{"K*-C.wsd", "KABC-A.wsd", "kxyz-a.wsd", "KXYZ-B.wsd", "readme"};
+    const Names all{"K*-C.wsd", "KABC-A.wsd", "kxyz-a.wsd", "KXYZ-B.wsd", "readme", "README2"};
     FileList& list = Form().File;
     Names clicked;
     list.OnClick = [&] { clicked.push_back(list.FileName()); };
@@ -103,7 +103,7 @@ TEST_F(ListsTest, FileListNarrowsByTheBeginningOfNamesAndTellsTheNameClicked) {
     }
     EXPECT_TRUE(door.PickFile(list, 0));
     EXPECT_EQ(clicked, (Names{"KXYZ-B.wsd", "kxyz-a.wsd"}));
-    EXPECT_EQ(NumberOf([&] { list.SetListIndex(2); }), BadArgument);
+    EXPECT_EQ(FailureOf([&] { list.SetListIndex(2); }).Reason(), "File has nothing of that number");
     EXPECT_EQ(NumberOf([&] { list.SetPath("C:\\gone\\"); }), PathNotFound);
     EXPECT_EQ(list.Path(), "C:\\Sids\\");
     EXPECT_EQ(list.Lines().size(), 2U);

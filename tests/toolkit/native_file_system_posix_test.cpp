@@ -168,6 +168,13 @@ TEST_F(BesideWine, DriveLettersLeadThroughThePrefix) {
     EXPECT_EQ(NumberOf([&] { files->FolderOfDrive("D:\\"); }), PathNotFound);
 }
 
+TEST_F(BesideWine, WithoutANameThePrefixIsThatOfTheHomeFolder) {
+    std::filesystem::create_directory_symlink("prefix", folder.On(".wine"));
+    const Environment none("WINEPREFIX", "");
+    const Environment home("HOME", folder.On("").string());
+    EXPECT_EQ(MakeNativeFileSystem()->Drives().size(), 3U);
+}
+
 TEST_F(BesideWine, RegistryOfThePrefixAnswers) {
     folder.Put(
         "prefix/system.reg",
