@@ -20,6 +20,7 @@ TEST(PositionText, IsReadInEveryForm) {
         {"118.408 W, 33.9425 N", North, West},
         {"N33 56.550 W118 24.480", North, West},
         {"33 56.550 -118 24.480", North, West},
+        {"33 30, 118 45", 33.5, 118.75},
         {"N 33\xC2\xB0"
          "56.550' / W 118\xC2\xB0"
          "24.480'",
