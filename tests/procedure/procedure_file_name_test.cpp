@@ -63,7 +63,8 @@ TEST(ProcedureFileName, WithoutASeparatorItNeedsIsRefused) {
         EXPECT_EQ(failure.Reason(), fileName + ": the name has no " + reason);
     };
     for (const char* name : {"", "KXYZ.wsd"}) refused(name, "\"-\" behind the airport's code");
-    for (const char* name : {"KXYZ-DEMO1", "KX.YZ-DEMO1"}) refused(name, "\".\" that ends the basic name");
+    for (const char* name : {"KXYZ-DEMO1", "KX.YZ-DEMO1", ".-A.wsd"})
+        refused(name, "\".\" that ends the basic name");
     for (const char* name : {"KXYZ-DEMO1.tr", "KXYZ-DEMO1.rwy"})
         refused(name, "second \".\" that ends the transition or runway");
 }

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 #if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/allocator_interface.h>
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();  // of the sanitizer's own allocator
 #elif defined(__linux__)
 #include <malloc.h>
 #endif
