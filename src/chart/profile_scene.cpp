@@ -82,6 +82,7 @@ class ProfileScene {
     void SetScale();
     void PutGrid();
     void PutLine();
+    void PutPart(Line& line, Point from, Point to) const;
     void PutGradient(const RoutePoint& from, const RoutePoint& to);
     void PutNames();
     void PutRow(int row);
@@ -173,11 +174,24 @@ void ProfileScene::PutLine() {
     const RoutePoint* before = nullptr;
     for (const RoutePoint& point : route_.points) {
         if (!point.position || !HasAltitude(point)) continue;
-        line.points.push_back({X(point.distance), Y(LineAltitude(point))});
-        if (before != nullptr) PutGradient(*before, point);
+        if (before != nullptr) {
+            PutPart(line, {X(before->distance), Y(LineAltitude(*before))},
+                    {X(point.distance), Y(LineAltitude(point))});
+            PutGradient(*before, point);
+        }
         before = &point;
     }
-    if (line.points.size() > 1) Put(line);
+    if (!line.points.empty()) Put(line);
+}
+
+// What of a part of the line lies between the edges of the plot; `to` is not left of `from`.
+void ProfileScene::PutPart(Line& line, Point from, Point to) const {
+    if (to.x < MarginLeft || from.x > right_) return;
+    const auto at = [&](double x) {
+        return Point{x, std::lerp(from.y, to.y, (x - from.x) / (to.x - from.x))};
+    };
+    if (line.points.empty()) line.points.push_back(from.x < MarginLeft ? at(MarginLeft) : from);
+    line.points.push_back(to.x > right_ ? at(right_) : to);
 }
 
 void ProfileScene::PutGradient(const RoutePoint& from, const RoutePoint& to) {
