@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <numbers>
+#include <numeric>
 #include <string>
 
 #include "geometry/rhumb_line.h"
@@ -60,15 +61,32 @@ void ForEachMultiple(double low, double high, double distance, Use use) {
     for (int step = 0; step <= steps; ++step) use((first + step) * distance);
 }
 
+// The way between two positions of a parallel or meridian, finer where the map stretches it, near the rim.
+void AddWay(std::vector<Point>& points, const Projection& map, Position from, Position to, int halvings) {
+    constexpr double LongestPiece = 0.05;  // radians of the map
+    const Point point = map.ToPoint(to);
+    const double length = std::hypot(point.x - points.back().x, point.y - points.back().y);
+    if (halvings == 0 || length < LongestPiece / RadiansPerNauticalMile * map.View().scale) {
+        points.push_back(point);
+        return;
+    }
+    const Position middle{std::midpoint(from.latitude, to.latitude),
+                          std::midpoint(from.longitude, to.longitude)};
+    AddWay(points, map, from, middle, halvings - 1);
+    AddWay(points, map, middle, to, halvings - 1);
+}
+
 std::vector<Point> PointsOn(const Projection& map, Position from, Position to) {
-    std::vector<Point> points;
+    constexpr int MostHalvings = 8;
+    std::vector<Point> points = {map.ToPoint(from)};
     const double span = std::max(to.latitude - from.latitude, to.longitude - from.longitude);
     const int steps = FewestSteps + static_cast<int>(span / DegreesOfAStep);
-    for (int step = 0; step <= steps; ++step) {
+    const auto at = [&](int step) {
         const double share = static_cast<double>(step) / steps;
-        points.push_back(map.ToPoint({from.latitude + share * (to.latitude - from.latitude),
-                                      from.longitude + share * (to.longitude - from.longitude)}));
-    }
+        return Position{std::lerp(from.latitude, to.latitude, share),
+                        std::lerp(from.longitude, to.longitude, share)};
+    };
+    for (int step = 1; step <= steps; ++step) AddWay(points, map, at(step - 1), at(step), MostHalvings);
     return points;
 }
 
