@@ -22,18 +22,6 @@ inline Message NotOpened(const std::string& fileName, const std::string& reason)
             .title = "Procedure not opened."};
 }
 
-// Positions from the clipboard and onto it.
-inline Message NoPositionToPaste(const std::string& text) {
-    return {
-        .prompt = (text.empty() ? "There is no text on the clipboard." : "This is no position:\r\n" + text) +
-                  "\r\nA position is written like N33 56.550 W118 24.480 or 33.9425 -118.408.",
-        .title = "Paste Position"};
-}
-inline const Message NoPositionToCopy{
-    .prompt = "The boxes hold no position.",
-    .title = "Copy Position",
-};
-
 // What the boxes hold beside the rows.
 inline constexpr std::string_view NotInTheProcedure = "Not in the procedure yet: press Add.";
 inline constexpr std::string_view ChangedNotWritten = "Changed, not written yet: press Modify. ";

@@ -36,7 +36,9 @@ ModifyProcedure::ModifyProcedure(const Workplace& workplace, const EditorTools& 
       workplace_(workplace),
       state_(workplace.state),
       dialogue_(workplace.dialogue),
-      tools_(tools) {
+      tools_(tools),
+      positions_(Latitude, Longitude, Alt1Text, workplace.platform.clipboard, workplace.dialogue,
+                 [this] { return HeldPosition(); }) {
     BasicNameText.SetLocked(true);
     TransitionText.SetLocked(true);
     RwySpecificCheck.SetEnabled(false);

@@ -3,6 +3,7 @@
 #include "editor/editor_tools.h"
 #include "editor/procedure_picture.h"
 #include "geometry/coordinate_group.h"
+#include "geometry/position_boxes.h"
 #include "navigation/search_hit.h"
 #include "procedure/procedure_rows.h"
 #include "startup/workplace.h"
@@ -136,14 +137,11 @@ class ModifyProcedure : public Form, private RowsObserver {
     void AtAboveAtBelowOption_Click();
     void RwySpecificCheck_Click();
 
-    // A whole position from the clipboard into the boxes, and the one that they hold onto it, as a text that
-    // people read (modify_procedure_position.cpp).
-    void PastePosition();
-    void CopyPosition();
-
     // The boxes as the row that Add would make of them. Its decimals are those of the last search whatever
     // the boxes hold: degrees and minutes are the current form.
     WaypointRecord BoxesAsRow() const;
+    // What a save would write of their position; none while an axis is empty, or past its range.
+    std::optional<Position> HeldPosition() const;
 
     // Rows (modify_procedure_rows.cpp, modify_procedure_select.cpp, modify_procedure_undo.cpp).
     void WaypointList_Click();
@@ -185,11 +183,8 @@ class ModifyProcedure : public Form, private RowsObserver {
     // Connects the events of the controls with the operations.
     void Connect();
 
-    void ConnectPositions();
     // Gives each box its tip.
     void TellBoxes();
-    // False for a text that is no position, behind which nothing has changed.
-    bool TakePosition(std::string_view text);
 
     void RowsChanged(const ProcedureRows::Change& change) override;
 
@@ -253,6 +248,7 @@ class ModifyProcedure : public Form, private RowsObserver {
     SharedState& state_;
     Dialogue& dialogue_;
     EditorTools tools_;
+    const PositionBoxes positions_;
     Held shown_;  // as the selected row came into the boxes, or was written from them, last
 };
 

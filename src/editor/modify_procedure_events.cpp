@@ -56,7 +56,6 @@ void ModifyProcedure::Connect() {
     TellBoxes();
     AirspeedText.OnChange = run(&Self::AirspeedText_Change);
     RwySpecificCheck.OnClick = run(&Self::RwySpecificCheck_Click);
-    ConnectPositions();
     WaypointList.OnClick = run(&Self::WaypointList_Click);
 }
 
@@ -97,14 +96,13 @@ std::vector<Shortcut> ModifyProcedure::Shortcuts() {
         {CtrlZ, nullptr, &UndoCommand},
         {CtrlY, nullptr, &RedoCommand},
         {CtrlShiftZ, nullptr, &RedoCommand},
-        {CtrlShiftV, nullptr, nullptr, [this] { PastePosition(); }},
-        {CtrlShiftC, nullptr, nullptr, [this] { CopyPosition(); }},
         {CtrlL, nullptr, nullptr, [this] { WaypointList.SetFocus(); }},
         {Ctrl1, nullptr, nullptr, page(0)},
         {Ctrl2, nullptr, nullptr, page(1)},
         {Ctrl3, nullptr, nullptr, page(2)},
         {Ctrl4, nullptr, nullptr, page(3)},
     };
+    for (const Shortcut& key : positions_.Shortcuts()) keys.push_back(key);
     // On the chart it takes what is marked there.
     if (Pictures.PlanPicture.HasFocus() && Pictures.HasMark()) return keys;
     for (Button* command : {&AddWaypointCommand, &ModifyWaypointCommand}) {

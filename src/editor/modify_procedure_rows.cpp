@@ -2,6 +2,7 @@
 #include <cmath>
 #include <utility>
 
+#include "chart/route.h"
 #include "editor/editor_messages.h"
 #include "editor/modify_procedure.h"
 #include "geometry/text_rules.h"
@@ -85,6 +86,11 @@ WaypointRecord ModifyProcedure::BoxesAsRow() const {
     row.Altitude1 = Alt2Text.Text().empty() ? OrZero(Alt1Text) : std::string_view(Alt1Text.Text());
     row.RestrictionType = RestrictionCode(*this);
     return row;
+}
+
+std::optional<Position> ModifyProcedure::HeldPosition() const {
+    if (!Latitude.IsFilled() || !Longitude.IsFilled()) return std::nullopt;
+    return RoutePointOf(BoxesAsRow()).position;
 }
 
 void ModifyProcedure::AddWaypointCommand_Click() {

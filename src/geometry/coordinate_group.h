@@ -27,6 +27,7 @@ struct CoordinateGroup {
     bool IsFilled() const { return !degrees.Text().empty() || !minutes.Text().empty(); }
     // The magnitude in decimal degrees, by the numbers that the boxes begin with.
     double Magnitude() const;
+    double Coordinate() const { return negative.Value() ? -Magnitude() : Magnitude(); }
 };
 
 }  // namespace tarvex

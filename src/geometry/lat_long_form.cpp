@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "geometry/text_rules.h"
 
@@ -19,6 +20,14 @@ std::string_view OrNegative(std::string_view complaint, const TextBox& box) {
     return complaint.empty() && LeadingNumber(box.Text()) < 0 ? Negative : complaint;
 }
 
+// What is wrong with the boxes of an axis, its minutes behind its degrees.
+std::pair<std::string_view, TextBox&> ComplaintOf(const CoordinateGroup& group, std::string_view whenEmpty) {
+    if (group.degrees.Text().empty()) return {whenEmpty, group.degrees};
+    const std::string_view complaint = OrNegative(group.DegreesComplaint(), group.degrees);
+    if (!complaint.empty()) return {complaint, group.degrees};
+    return {OrNegative(group.MinutesComplaint(), group.minutes), group.minutes};
+}
+
 std::string DecimalText(const CoordinateGroup& group) {
     const std::string decimal = NumberText(group.Magnitude());
     return group.negative.Value() ? "-" + decimal : decimal;
@@ -26,8 +35,11 @@ std::string DecimalText(const CoordinateGroup& group) {
 
 }  // namespace
 
-LatLongForm::LatLongForm(FormHost& host, Dialogue& dialogue, ArcVariables& variables)
-    : Form(host, "LatLongForm", "Lat/Long Centerpoint"), dialogue_(dialogue), variables_(variables) {
+LatLongForm::LatLongForm(FormHost& host, Dialogue& dialogue, Clipboard& clipboard, ArcVariables& variables)
+    : Form(host, "LatLongForm", "Lat/Long Centerpoint"),
+      dialogue_(dialogue),
+      variables_(variables),
+      positions_(Latitude, Longitude, DoneCommand, clipboard, dialogue, [this] { return HeldPosition(); }) {
     NorthOption.SelectAtFirst();
     EastOption.SelectAtFirst();
     SetTips({{DLatCenterText, "Latitude of the centre: whole degrees, 0 to 90"},
@@ -57,9 +69,14 @@ void LatLongForm::DoneCommand_Click() {
 }
 
 bool LatLongForm::IsComplete(const CoordinateGroup& group, std::string_view whenEmpty) {
-    if (group.degrees.Text().empty()) return !dialogue_.Complain(whenEmpty, group.degrees);
-    return !dialogue_.Complain(OrNegative(group.DegreesComplaint(), group.degrees), group.degrees) &&
-           !dialogue_.Complain(OrNegative(group.MinutesComplaint(), group.minutes), group.minutes);
+    const auto [complaint, box] = ComplaintOf(group, whenEmpty);
+    return !dialogue_.Complain(complaint, box);
+}
+
+std::optional<Position> LatLongForm::HeldPosition() const {
+    if (!ComplaintOf(Latitude, NoLatDegrees).first.empty()) return std::nullopt;
+    if (!ComplaintOf(Longitude, NoLongDegrees).first.empty()) return std::nullopt;
+    return Position{Latitude.Coordinate(), Longitude.Coordinate()};
 }
 
 }  // namespace tarvex

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "geometry/coordinate_group.h"
+#include "geometry/position_boxes.h"
 #include "geometry/tool_variables.h"
 #include "toolkit/dialogue.h"
 #include "toolkit/form.h"
@@ -13,7 +14,7 @@ namespace tarvex {
 // Takes the centre of an arc by hand, for whoever opened it.
 class LatLongForm : public Form {
   public:
-    LatLongForm(FormHost& host, Dialogue& dialogue, ArcVariables& variables);
+    LatLongForm(FormHost& host, Dialogue& dialogue, Clipboard& clipboard, ArcVariables& variables);
 
     Label Label1{*this, "Label1", "D       M  Latitude"};
     TextBox DLatCenterText{*this, "DLatCenterText", 2, 0};
@@ -31,6 +32,7 @@ class LatLongForm : public Form {
     Button OopsCommand{*this, "OopsCommand", "  Oops   Exit Back", 2, Boxes::Dropped};
 
     Button* WayOut() override { return &OopsCommand; }
+    std::vector<Shortcut> Shortcuts() override { return positions_.Shortcuts(); }
 
     const CoordinateGroup Latitude{LatitudeAxis, DLatCenterText, MLatCenterText, NorthOption, SouthOption};
     const CoordinateGroup Longitude{LongitudeAxis, DLongCenterText, MLongCenterText, EastOption, WestOption};
@@ -49,9 +51,12 @@ class LatLongForm : public Form {
     // Whether the boxes make up a coordinate, empty minutes counting as 0; shows the first complaint and
     // moves the focus there if not.
     bool IsComplete(const CoordinateGroup& group, std::string_view whenEmpty);
+    // The centre, if the boxes make up one.
+    std::optional<Position> HeldPosition() const;
 
     Dialogue& dialogue_;
     ArcVariables& variables_;
+    const PositionBoxes positions_;
 };
 
 }  // namespace tarvex

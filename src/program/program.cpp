@@ -36,7 +36,8 @@ Program::Program(const Platform& services)
           [this] { return std::make_unique<AddARC>(host, dialogue, state, state.MagVarSide, latLongForm); }),
       createWaypointForm(host,
                          [this] { return std::make_unique<CreateWaypointForm>(host, dialogue, state); }),
-      latLongForm(host, [this] { return std::make_unique<LatLongForm>(host, dialogue, state); }) {
+      latLongForm(
+          host, [this] { return std::make_unique<LatLongForm>(host, dialogue, platform.clipboard, state); }) {
     host.SetHelp([this] { ShowGuide(platform, dialogue); });
     host.SetFailureReport([this](const Failure& failure) {
         dialogue.Ask({.prompt = "The operation could not be finished: " + failure.Reason() + " (error " +

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "geometry/coordinate_group.h"
+#include "geometry/position.h"
+#include "toolkit/clipboard.h"
+#include "toolkit/dialogue.h"
+#include "toolkit/form.h"
+
+namespace tarvex {
+
+// The boxes and options of a whole position: takes one from the clipboard, by a key, by their menu or by a
+// plain paste into any of the boxes, and puts the one that they hold onto it, as a text that people read.
+class PositionBoxes {
+  public:
+    // `next` has the focus behind a paste; `held` is the position that the boxes hold, if they hold one.
+    PositionBoxes(const CoordinateGroup& latitude, const CoordinateGroup& longitude, Control& next,
+                  Clipboard& clipboard, Dialogue& dialogue, std::function<std::optional<Position>()> held);
+    PositionBoxes(const PositionBoxes&) = delete;
+    PositionBoxes& operator=(const PositionBoxes&) = delete;
+
+    // The keys that paste and copy; they work wherever the focus is on the form.
+    std::vector<Shortcut> Shortcuts() const;
+
+  private:
+    using BoxList = std::array<TextBox*, 4>;
+
+    BoxList Boxes() const {
+        return {&latitude_.degrees, &latitude_.minutes, &longitude_.degrees, &longitude_.minutes};
+    }
+    // False for a text that is no position, behind which nothing has changed.
+    bool Take(std::string_view text) const;
+    void Paste() const;
+    void Copy() const;
+
+    const CoordinateGroup& latitude_;
+    const CoordinateGroup& longitude_;
+    Control& next_;
+    Clipboard& clipboard_;
+    Dialogue& dialogue_;
+    std::function<std::optional<Position>()> held_;
+};
+
+}  // namespace tarvex
