@@ -26,6 +26,8 @@ constexpr double SymbolSize = 10;
 constexpr double BarHalf = 7;  // half the width of the bar of a restriction
 constexpr double TextSize = 11;
 constexpr double SmallText = 10;
+constexpr double Beside = 12;     // from the middle of a symbol to its words, to the right
+constexpr double Off = 9;         // and upwards
 constexpr double LeastRoom = 40;  // below which there is no profile
 
 double PlotWidth(double width) {
@@ -87,7 +89,8 @@ class ProfileScene {
     void PutNames();
     void PutRow(int row);
     void PutRestriction(const RoutePoint& point, Role role, Target target);
-    void PutAltitude(const RoutePoint& point, Role role, Target target);
+    void PutAltitude(std::size_t row, Role role, Target target);
+    double BesideClimb(std::size_t runway) const;
     void Shade(double x, double low, double high);
     // Of a row without an altitude: where the line between its neighbours is.
     double AltitudeOf(std::size_t row) const;
@@ -255,14 +258,29 @@ void ProfileScene::PutRestriction(const RoutePoint& point, Role role, Target tar
                .target = target});
 }
 
-void ProfileScene::PutAltitude(const RoutePoint& point, Role role, Target target) {
+// How far behind a runway its elevation stands: below the line that climbs away, where that is steep.
+double ProfileScene::BesideClimb(std::size_t runway) const {
+    constexpr double Farthest = 40;
+    const auto& points = route_.points;
+    const auto next =
+        std::find_if(points.begin() + static_cast<std::ptrdiff_t>(runway) + 1, points.end(),
+                     [](const RoutePoint& point) { return point.position && HasAltitude(point); });
+    if (next == points.end()) return Beside;
+    const double climb = Y(LineAltitude(points[runway])) - Y(LineAltitude(*next));
+    const double along = X(next->distance) - X(points[runway].distance);
+    const double clear = climb > 0 ? (Off + TextSize / 2 + 2) * along / climb : Beside;
+    return clear > Beside && clear < Farthest ? clear : Beside;
+}
+
+void ProfileScene::PutAltitude(std::size_t row, Role role, Target target) {
+    const RoutePoint& point = route_.points[row];
     const auto [kind, low, high] = point.altitude;
-    Words words{.at = {X(point.distance) + 12, 0},
+    Words words{.at = {X(point.distance) + (point.runway ? BesideClimb(row) : Beside), 0},
                 .role = role == Role::Selected ? role : Role::Note,
                 .size = TextSize,
                 .target = target};
     if (words.at.x + measure_.Width(FeetText(high), TextSize, false) > drawing_.size.width) {
-        words.at.x -= 24;
+        words.at.x = X(point.distance) - Beside;
         words.align = Words::Align::Right;
     }
     const auto put = [&](double feet, double above, bool under, bool over) {
@@ -272,7 +290,6 @@ void ProfileScene::PutAltitude(const RoutePoint& point, Role role, Target target
         words.overlined = over;
         Put(words);
     };
-    constexpr double Off = 9;
     if (point.runway) {
         put(low, -Off, false, false);
     } else if (kind == Kind::Between) {
@@ -290,7 +307,7 @@ void ProfileScene::PutRow(int row) {
     const Target target{Target::Kind::Row, row};
     if (HasAltitude(point)) {
         PutRestriction(point, RoleOf(row), target);
-        PutAltitude(point, RoleOf(row), target);
+        PutAltitude(index, RoleOf(row), target);
         return;
     }
     Put(Symbol{.glyph = Glyph::Waypoint,

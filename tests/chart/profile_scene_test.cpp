@@ -97,6 +97,22 @@ TEST_F(ProfileSceneTest, AltitudesAreMarkedAsOnPrintedCharts) {
     }
 }
 
+TEST_F(ProfileSceneTest, AnElevationStandsClearOfTheClimbBehindIt) {
+    Route missed = Approach();
+    missed.points.push_back(At(33.5, {Kind::AtOrAbove, 5000, 5000}, "EEE"));
+    ConnectLegs(missed);
+    Draw(missed);
+    const Point elevation = Find("elev 126")->at;
+    const Point from = SymbolOf(4)->at;
+    const Point to = SymbolOf(5)->at;
+    const double line = std::lerp(from.y, to.y, (elevation.x - from.x) / (to.x - from.x));
+    EXPECT_LT(line, elevation.y - 5.5) << "above the words";
+    EXPECT_LT(elevation.x, from.x + 40);
+
+    Draw(Approach());
+    EXPECT_EQ(Find("elev 126")->at.x, SymbolOf(4)->at.x + 12);
+}
+
 TEST_F(ProfileSceneTest, WhateverTheRowsHoldTheDrawingIsFinite) {
     Route odd = Approach();
     odd.points[1].position.reset();
