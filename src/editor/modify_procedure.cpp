@@ -138,6 +138,7 @@ void ModifyProcedure::OrderStoredAltitudes() {
 }
 
 void ModifyProcedure::RowsChanged(const ProcedureRows::Change& change) {
+    positions_.Settle();
     const auto& lines = state_.Rows.Lines();
     const auto line = [&lines](int index) -> const std::string& {
         return lines[static_cast<std::size_t>(index)];

@@ -248,7 +248,7 @@ class ModifyProcedure : public Form, private RowsObserver {
     SharedState& state_;
     Dialogue& dialogue_;
     EditorTools tools_;
-    const PositionBoxes positions_;
+    PositionBoxes positions_;
     Held shown_;  // as the selected row came into the boxes, or was written from them, last
 };
 

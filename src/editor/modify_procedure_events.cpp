@@ -102,7 +102,9 @@ std::vector<Shortcut> ModifyProcedure::Shortcuts() {
         {Ctrl3, nullptr, nullptr, page(2)},
         {Ctrl4, nullptr, nullptr, page(3)},
     };
-    for (const Shortcut& key : positions_.Shortcuts()) keys.push_back(key);
+    // A paste is taken back before the rows are undone.
+    const std::vector<Shortcut> ofPosition = positions_.Shortcuts();
+    keys.insert(keys.begin(), ofPosition.begin(), ofPosition.end());
     // On the chart it takes what is marked there.
     if (Pictures.PlanPicture.HasFocus() && Pictures.HasMark()) return keys;
     for (Button* command : {&AddWaypointCommand, &ModifyWaypointCommand}) {

@@ -56,7 +56,7 @@ class LatLongForm : public Form {
 
     Dialogue& dialogue_;
     ArcVariables& variables_;
-    const PositionBoxes positions_;
+    PositionBoxes positions_;
 };
 
 }  // namespace tarvex

@@ -66,29 +66,54 @@ PositionBoxes::PositionBoxes(const CoordinateGroup& latitude, const CoordinateGr
     }
 }
 
-std::vector<Shortcut> PositionBoxes::Shortcuts() const {
-    return {{ShortcutKey::CtrlShiftV, nullptr, nullptr, [this] { Paste(); }},
-            {ShortcutKey::CtrlShiftC, nullptr, nullptr, [this] { Copy(); }}};
+std::vector<Shortcut> PositionBoxes::Shortcuts() {
+    std::vector<Shortcut> keys = {{ShortcutKey::CtrlShiftV, nullptr, nullptr, [this] { Paste(); }},
+                                  {ShortcutKey::CtrlShiftC, nullptr, nullptr, [this] { Copy(); }}};
+    if (pasted_ && WhatBoxesHold() == pasted_->after) {
+        keys.push_back({ShortcutKey::CtrlZ, nullptr, nullptr, [this] { TakeBack(); }});
+    }
+    return keys;
+}
+
+PositionBoxes::Held PositionBoxes::WhatBoxesHold() const {
+    return {{latitude_.degrees.Text(), latitude_.minutes.Text(), longitude_.degrees.Text(),
+             longitude_.minutes.Text()},
+            latitude_.negative.Value(),
+            longitude_.negative.Value()};
 }
 
 // Behind it both axes count as gone through by the user, since the boxes of their minutes are visited. A box
 // elsewhere whose rule keeps the focus keeps the position out.
-bool PositionBoxes::Take(std::string_view text) const {
+bool PositionBoxes::Take(std::string_view text) {
     const auto position = ReadPosition(text);
     if (!position) return false;
     const BoxList boxes = Boxes();
     const auto hasFocus = [](const TextBox* box) { return box->HasFocus(); };
     if (std::none_of(boxes.begin(), boxes.end(), hasFocus)) latitude_.minutes.SetFocus();
-    if (std::none_of(boxes.begin(), boxes.end(), hasFocus)) return true;
+    const auto from = std::find_if(boxes.begin(), boxes.end(), hasFocus);
+    if (from == boxes.end()) return true;
+    Held before = WhatBoxesHold();
     FillAxis(latitude_, position->latitude);
     FillAxis(longitude_, position->longitude);
+    pasted_.emplace(Pasted{std::move(before), WhatBoxesHold(), **from});
     latitude_.minutes.SetFocus();
     longitude_.minutes.SetFocus();
     next_.SetFocus();
     return true;
 }
 
-void PositionBoxes::Paste() const {
+// A box that was left half filled has the focus again, and with it its rule.
+void PositionBoxes::TakeBack() {
+    const auto [before, after, from] = *pasted_;
+    from.SetFocus();
+    if (!from.HasFocus()) return;
+    pasted_.reset();
+    const auto& [latitudeDegrees, latitudeMinutes, longitudeDegrees, longitudeMinutes] = before.texts;
+    latitude_.Fill(latitudeDegrees, latitudeMinutes, before.south);
+    longitude_.Fill(longitudeDegrees, longitudeMinutes, before.west);
+}
+
+void PositionBoxes::Paste() {
     const std::string text = clipboard_.Text();
     if (!Take(text)) dialogue_.Ask(NoPositionToPaste(Excerpt(text)));
 }

@@ -44,21 +44,14 @@ void TextBox::Type(std::string_view text) {
     Put(text);
 }
 
-bool TextBox::CanUndoTyping() const {
-    return typing_ && text_ != typing_->before;
-}
-
-bool TextBox::UndoTyping() {
-    if (!typing_ || text_ == typing_->before) return false;
+void TextBox::UndoTyping() {
+    if (!CanUndoTyping()) return;
     typing_->undone = text_;
     Put(std::string(typing_->before));
-    return true;
 }
 
-bool TextBox::RedoTyping() {
-    if (!typing_ || !typing_->undone) return false;
-    Put(*std::exchange(typing_->undone, std::nullopt));
-    return true;
+void TextBox::RedoTyping() {
+    if (CanRedoTyping()) Put(*std::exchange(typing_->undone, std::nullopt));
 }
 
 void TextBox::SetLocked(bool locked) {

@@ -63,10 +63,12 @@ class TextBox : public Control {
     // The same by the user. As long as the focus is here and no operation changes the text, the typing can be
     // undone as a whole, and done again.
     void Type(std::string_view text);
-    // False when there is nothing to undo, or to do again: for the one, when the text is what it was.
-    bool UndoTyping();
-    bool RedoTyping();
-    bool CanUndoTyping() const;
+    // They do nothing where there is nothing to undo, or to do again: for the one, when the text is what it
+    // was.
+    void UndoTyping();
+    void RedoTyping();
+    bool CanUndoTyping() const { return typing_ && text_ != typing_->before; }
+    bool CanRedoTyping() const { return typing_ && typing_->undone; }
     int MaxLength() const { return maxLength_; }
     bool Locked() const { return locked_; }  // shown as usable, but takes no typing
     void SetLocked(bool locked);

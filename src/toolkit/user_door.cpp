@@ -46,12 +46,14 @@ void RunEntry(const std::vector<MenuEntry>& menu, int index) {
     if (entry.enabled && entry.onClick) entry.onClick();
 }
 
-// Whether the key was for the typing in the box that has the focus.
-bool Retypes(Control* focused, ShortcutKey key) {
+// What the key does to the typing in the box that has the focus; empty where it is not for that.
+std::function<void()> Retyping(Control* focused, ShortcutKey key) {
     auto* box = dynamic_cast<TextBox*>(focused);
-    if (box == nullptr) return false;
-    if (key == ShortcutKey::CtrlZ) return box->UndoTyping();
-    return (key == ShortcutKey::CtrlY || key == ShortcutKey::CtrlShiftZ) && box->RedoTyping();
+    if (box == nullptr) return {};
+    if (key == ShortcutKey::CtrlZ && box->CanUndoTyping()) return [box] { box->UndoTyping(); };
+    const bool again = key == ShortcutKey::CtrlY || key == ShortcutKey::CtrlShiftZ;
+    if (again && box->CanRedoTyping()) return [box] { box->RedoTyping(); };
+    return {};
 }
 
 }  // namespace
@@ -246,6 +248,10 @@ bool UserDoor::Key(Form& form, ShortcutKey key) {
         host_.RunEvent([this] { host_.Help(); });
         return true;
     }
+    if (const auto retype = Retyping(before, key)) {
+        host_.RunEvent(retype);
+        return true;
+    }
     const auto shortcuts = form.Shortcuts();
     const auto isMeant = [&](const Shortcut& shortcut) {
         return shortcut.key == key && (shortcut.where == nullptr || shortcut.where == before);
@@ -256,7 +262,6 @@ bool UserDoor::Key(Form& form, ShortcutKey key) {
     if (found == shortcuts.end()) found = std::find_if(shortcuts.begin(), shortcuts.end(), isMeant);
     if (found == shortcuts.end()) return false;
     host_.RunEvent([&] {
-        if (Retypes(before, key)) return;
         if (found->button == nullptr) return found->act();
         if (!Press(*found->button) || !OnScreen(host_, form)) return;
         if (found->button->HasFocus() && before != nullptr) before->SetFocus();

@@ -90,6 +90,12 @@ class Slips(WindowTest):
         for again in ("ctrl+y", "ctrl+shift+z"):
             key(again)
         editor.expect(editor.lines, "WaypointList", ["CYN", "KARRS", "ASALT", "JFK"])
+        editor.click("AddArcCommand")
+        designer = program.window("ARC Designer")
+        designer.type("ArcStartText", "77")
+        for way, text in (("ctrl+z", ""), ("ctrl+y", "77")):
+            key(way)
+            designer.expect(designer.text, "ArcStartText", text)
 
     def test_arrows_go_round_the_restrictions(self):
         program = self.start()
