@@ -18,7 +18,6 @@ constexpr int Profile = 1;
 constexpr int FindingsPage = 3;
 constexpr std::string_view FindingsCaption = "Findings";
 constexpr double MilesRoundAirport = 40;
-constexpr std::string_view Hint = "Type the ICAO code of the airport to see what lies around it.";
 
 std::string LegsLineText(const LegsLine& line) {
     std::string text;
@@ -32,7 +31,7 @@ std::string LegsLineText(const LegsLine& line) {
 
 Drawing HintDrawing(const Size& room) {
     return {room,
-            {Words{.text = std::string(Hint),
+            {Words{.text = "Type the ICAO code of the airport to see what lies around it.",
                    .at = {room.width / 2, room.height / 2},
                    .align = Words::Align::Centre,
                    .role = Role::Note,
@@ -257,8 +256,7 @@ std::string ProcedurePicture::Words() const {
     if (const auto rows = LegsList.Selected().size(); rows > 1) {
         return NumberText(static_cast<double>(rows)) + " waypoints are selected.";
     }
-    if (route_.points.empty()) return std::string(view_ ? "" : Hint);
-    return RouteSentence(route_);
+    return route_.points.empty() ? "" : RouteSentence(route_);
 }
 
 }  // namespace tarvex

@@ -79,8 +79,9 @@ class ProcedurePictureTest : public ::testing::Test {
 
 TEST_F(ProcedurePictureTest, WithoutRowsTheAirportOfTheNameIsShown) {
     Open("CreateDP");
-    EXPECT_EQ(pictures().PictureLabel.Caption(),
+    EXPECT_EQ(std::get<Words>(plan().Shown().items.at(0)).text,
               "Type the ICAO code of the airport to see what lies around it.");
+    EXPECT_EQ(pictures().PictureLabel.Caption(), "");
     road.Do("AptNameText=klax");
     EXPECT_NE(SymbolOf(plan(), Fix), nullptr);
     EXPECT_EQ(pictures().PictureLabel.Caption(), "");
@@ -189,6 +190,12 @@ TEST_F(ProcedurePictureTest, TheMenuOpensTheToolsWithWhatWasChosen) {
         door().Choose(plan(), At(plan(), target));
         return plan().Menu()[static_cast<std::size_t>(entry)].enabled && door().PickMenuEntry(plan(), entry);
     };
+    EXPECT_TRUE(pick(Fix, 0));
+    EXPECT_EQ(editor().FixNameText.Text(), "ONWAY");
+    EXPECT_TRUE(road.Rows().empty());
+    EXPECT_TRUE(pick(Fix, 1));
+    EXPECT_EQ(road.Rows().size(), 1U);
+    road.Do("UndoCommand");
     EXPECT_FALSE(pick(Fix, 2));  // an arc is round a navaid
     EXPECT_TRUE(pick(Navaid, 2));
     EXPECT_TRUE(road.See("ArcLabelText").starts_with("    ArcLabelText \"LAX\" locked"));

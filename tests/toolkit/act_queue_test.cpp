@@ -52,6 +52,8 @@ TEST_F(ActQueueTest, ActsOfAFormThatGoesAreForgotten) {
     Put('b', Kind::Act, other, nullptr);
     queue.Forget(form);
     EXPECT_EQ(Drain(), "b");
+    Put('c', Kind::Act, form, &box);
+    queue.Clear();
     EXPECT_TRUE(queue.Empty());
 }
 

@@ -45,8 +45,11 @@ class ListsTest : public ::testing::Test {
 
 TEST_F(ListsTest, PathOfADriveIsItsCurrentFolder) {
     FolderList& list = Form().Dir;
+    std::string shown;
+    list.Observe([&] { shown = list.Path(); });
     list.SetPath("D:\\");
     EXPECT_EQ(list.Path(), "D:\\");
+    EXPECT_EQ(shown, list.Path());
     list.SetPath("C:\\Games\\");
     EXPECT_EQ(list.Path(), "C:\\Games");
     list.SetPath("C:");

@@ -88,7 +88,9 @@ TEST(PosixFiles, MissingRightsAreToldApart) {
     chmod(folder.On("shut").c_str(), 0);
     const auto files = MakeNativeFileSystem();
     EXPECT_EQ(NumberOf([&] { files->Read(folder.Path("secret")); }), PermissionDenied);
-    EXPECT_EQ(NumberOf([&] { files->Write(folder.Path("fixed"), "y"); }), AccessError);
+    const Failure fixed = FailureOf([&] { files->Write(folder.Path("fixed"), "y"); });
+    EXPECT_EQ(fixed.Number(), AccessError);
+    EXPECT_EQ(fixed.Reason(), folder.Path("fixed") + ": must not be written");
     EXPECT_EQ(NumberOf([&] { files->Read(folder.Path("shut\\inner")); }), PermissionDenied);
     EXPECT_EQ(NumberOf([&] { files->Files(folder.Path("shut")); }), PermissionDenied);
     chmod(folder.On("shut").c_str(), 0700);
