@@ -8,6 +8,7 @@
 
 #include "chart/airport.h"
 #include "chart/even_letters.h"
+#include "chart/picture_room.h"
 #include "chart/plan_view.h"
 #include "chart/target_words.h"
 
@@ -330,6 +331,19 @@ TEST_F(PlanSceneTest, WordsCoverNothing) {
                 }
             }
         }
+    }
+}
+
+TEST(PictureRoomTest, IsTakenUpToItsEdges) {
+    PictureRoom room({100, 60});
+    for (const Point& edge : {Point{50, 1}, {50, 59}, {1, 30}, {99, 30}}) {
+        const TurnedBox box{edge, {0.5, 0.5}};
+        EXPECT_TRUE(room.IsFree(box)) << edge.x << " " << edge.y;
+        room.Take(box);
+        EXPECT_FALSE(room.IsFree(box)) << edge.x << " " << edge.y;
+    }
+    for (const Point& outside : {Point{50, -1}, {50, 61}, {-1, 30}, {101, 30}}) {
+        EXPECT_FALSE(room.IsFree({outside, {0.5, 0.5}})) << outside.x << " " << outside.y;
     }
 }
 

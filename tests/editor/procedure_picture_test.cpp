@@ -229,6 +229,13 @@ TEST_F(ProcedurePictureTest, TheUsersViewIsKeptUntilARowWouldLieOutside) {
     road.Do("FixNameText=CHARLI | DDMLatText=34 | DDMLongText=118 | DMMLatText=1");
     road.Do("AddWaypointCommand");
     EXPECT_EQ(At(plan(), Row(1)), place);
+    road.Do("WaypointList#1 | MoveUp");
+    EXPECT_EQ(At(plan(), Row(0)), place);
+    road.Do("MoveDown");
+    EXPECT_EQ(At(plan(), Row(1)), place);
+    road.Do("WaypointList#2 | DDMLatText=32 | ModifyWaypointCommand");
+    EXPECT_NE(SymbolOf(plan(), Row(2)), nullptr);
+    road.Do("ClearDataCommand");
     Add("DELTA", "40", "118");
     EXPECT_NE(SymbolOf(plan(), Row(0)), nullptr);
     EXPECT_NE(SymbolOf(plan(), Row(3)), nullptr);

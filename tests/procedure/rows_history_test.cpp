@@ -220,5 +220,15 @@ TEST_F(RowsHistoryTest, RefusesRowsThatAreNotThere) {
     for (const auto& change : changes) EXPECT_EQ(reason(change), "the procedure has no such row");
 }
 
+TEST_F(RowsHistoryTest, TellsItsObserverUntilThatEnds) {
+    Follower other(rows);
+    rows.EndObservation(other);
+    rows.Append(Row(), "line");
+    EXPECT_EQ(follower.lines.size(), 1U) << "which still observes";
+    rows.EndObservation(follower);
+    rows.Append(Row(), "line");
+    EXPECT_EQ(follower.lines.size(), 1U);
+}
+
 }  // namespace
 }  // namespace tarvex
