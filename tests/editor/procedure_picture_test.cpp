@@ -245,6 +245,17 @@ TEST_F(ProcedurePictureTest, TheUsersViewIsKeptUntilARowWouldLieOutside) {
     EXPECT_NE(SymbolOf(plan(), Row(0)), nullptr);
 }
 
+TEST_F(ProcedurePictureTest, AHitThatIsClickedComesIntoView) {
+    Open("CreateDP");
+    Add("ALPHA", "33", "118");
+    EXPECT_EQ(SymbolOf(plan(), Fix), nullptr) << "half round the earth";
+    road.Do("FindFixCommand | SearchText=ONWAY | SearchCommand");
+    EXPECT_NE(SymbolOf(plan(), Fix), nullptr);
+    door().Pan(plan(), 5000, 0);
+    road.Do("to SearchText");
+    EXPECT_EQ(SymbolOf(plan(), Fix), nullptr) << "and the user's view stays";
+}
+
 TEST_F(ProcedurePictureTest, TheSheetIsSavedWhereTheUserWantsIt) {
     Open("CreateIAP");
     EXPECT_FALSE(pictures().SavePictureCommand.Enabled());

@@ -115,6 +115,7 @@ TEST_F(FormsTest, LoadDecidesWhetherTheFormComesUp) {
     loads([&] { b.slot.Hide(), b.slot.Show(); }, true, true);
     loads([&] { b->Go.SetFocus(), b.slot.Unload(); }, false, false);
     loads([&] { b->Go.SetFocus(), throw Failure(FileNotFound, "fails"); }, false, false);
+    loads([] {}, true, true);
     EXPECT_EQ(reported, Names{"fails"});
 }
 
