@@ -63,7 +63,7 @@ void ForEachMultiple(double low, double high, double distance, Use use) {
 
 // The way between two positions of a parallel or meridian, finer where the map stretches it, near the rim.
 void AddWay(std::vector<Point>& points, const Projection& map, Position from, Position to, int halvings) {
-    constexpr double LongestPiece = 0.05;  // radians of the map
+    constexpr double LongestPiece = 0.1;  // radians of the map
     const Point point = map.ToPoint(to);
     const double length = std::hypot(point.x - points.back().x, point.y - points.back().y);
     if (halvings == 0 || length < LongestPiece / RadiansPerNauticalMile * map.View().scale) {
@@ -77,7 +77,7 @@ void AddWay(std::vector<Point>& points, const Projection& map, Position from, Po
 }
 
 std::vector<Point> PointsOn(const Projection& map, Position from, Position to) {
-    constexpr int MostHalvings = 8;
+    constexpr int MostHalvings = 6;
     std::vector<Point> points = {map.ToPoint(from)};
     const double span = std::max(to.latitude - from.latitude, to.longitude - from.longitude);
     const int steps = FewestSteps + static_cast<int>(span / DegreesOfAStep);
