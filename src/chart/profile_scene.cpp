@@ -47,6 +47,11 @@ bool HasAltitude(const RoutePoint& point) {
     return point.altitude.kind != Kind::None;
 }
 
+// Whether the line goes through it.
+bool IsOnLine(const RoutePoint& point) {
+    return point.position && HasAltitude(point);
+}
+
 double LineAltitude(const RoutePoint& point) {
     return (point.altitude.low + point.altitude.high) / 2;
 }
@@ -160,12 +165,11 @@ double ProfileScene::AltitudeOf(std::size_t row) const {
     const auto& points = route_.points;
     const RoutePoint* before = nullptr;
     for (std::size_t i = 0; i <= row; ++i) {
-        if (points[i].position && HasAltitude(points[i])) before = &points[i];
+        if (IsOnLine(points[i])) before = &points[i];
     }
     if (before == &points[row]) return LineAltitude(points[row]);
     const auto after =
-        std::find_if(points.begin() + static_cast<std::ptrdiff_t>(row), points.end(),
-                     [](const RoutePoint& point) { return point.position && HasAltitude(point); });
+        std::find_if(points.begin() + static_cast<std::ptrdiff_t>(row), points.end(), IsOnLine);
     if (after == points.end()) return before == nullptr ? low_ : LineAltitude(*before);
     if (before == nullptr || after->distance <= before->distance) return LineAltitude(*after);
     const double share = (points[row].distance - before->distance) / (after->distance - before->distance);
@@ -176,7 +180,7 @@ void ProfileScene::PutLine() {
     Line line{.role = Role::Route};
     const RoutePoint* before = nullptr;
     for (const RoutePoint& point : route_.points) {
-        if (!point.position || !HasAltitude(point)) continue;
+        if (!IsOnLine(point)) continue;
         if (before != nullptr) {
             PutPart(line, {X(before->distance), Y(LineAltitude(*before))},
                     {X(point.distance), Y(LineAltitude(point))});
@@ -263,8 +267,7 @@ double ProfileScene::BesideClimb(std::size_t runway) const {
     constexpr double Farthest = 40;
     const auto& points = route_.points;
     const auto next =
-        std::find_if(points.begin() + static_cast<std::ptrdiff_t>(runway) + 1, points.end(),
-                     [](const RoutePoint& point) { return point.position && HasAltitude(point); });
+        std::find_if(points.begin() + static_cast<std::ptrdiff_t>(runway) + 1, points.end(), IsOnLine);
     if (next == points.end()) return Beside;
     const double climb = Y(LineAltitude(points[runway])) - Y(LineAltitude(*next));
     const double along = X(next->distance) - X(points[runway].distance);
@@ -275,16 +278,15 @@ double ProfileScene::BesideClimb(std::size_t runway) const {
 void ProfileScene::PutAltitude(std::size_t row, Role role, Target target) {
     const RoutePoint& point = route_.points[row];
     const auto [kind, low, high] = point.altitude;
-    Words words{.at = {X(point.distance) + (point.runway ? BesideClimb(row) : Beside), 0},
+    const std::string elevation = "elev " + FeetText(low);
+    const double width = measure_.Width(point.runway ? elevation : FeetText(high), TextSize, false);
+    const double left = X(point.distance) + (point.runway ? BesideClimb(row) : Beside);
+    Words words{.at = {std::min(left, drawing_.size.width - width - 1), 0},
                 .role = role == Role::Selected ? role : Role::Note,
                 .size = TextSize,
                 .target = target};
-    if (words.at.x + measure_.Width(FeetText(high), TextSize, false) > drawing_.size.width) {
-        words.at.x = X(point.distance) - Beside;
-        words.align = Words::Align::Right;
-    }
     const auto put = [&](double feet, double above, bool under, bool over) {
-        words.text = point.runway ? "elev " + FeetText(feet) : FeetText(feet);
+        words.text = point.runway ? elevation : FeetText(feet);
         words.at.y = std::clamp(Y(feet) + above, top_ + TextSize / 2, bottom_ - TextSize / 2);
         words.underlined = under;
         words.overlined = over;

@@ -70,18 +70,12 @@ struct MeantKey {
     bool repeats;  // as long as it is held
 };
 
-// Whether the key is for the typing in a box, on every form.
-bool IsForTyping(ShortcutKey key, const Control* focus) {
-    using enum ShortcutKey;
-    return (key == CtrlZ || key == CtrlY || key == CtrlShiftZ) &&
-           dynamic_cast<const TextBox*>(focus) != nullptr;
-}
-
 std::optional<MeantKey> MeaningOf(const wxKeyEvent& event, Form& form, const Control* focus) {
     for (const auto& known : ShortcutKeys) {
         if (known.code != event.GetKeyCode() || known.modifiers != event.GetModifiers()) continue;
         if (known.key == ShortcutKey::F1) return MeantKey{known.key, false};
-        if (IsForTyping(known.key, focus)) return MeantKey{known.key, true};
+        const bool inBox = dynamic_cast<const TextBox*>(focus) != nullptr;
+        if (inBox && UndoesOrRedoes(known.key)) return MeantKey{known.key, true};
         for (const Shortcut& shortcut : form.Shortcuts()) {
             if (shortcut.key != known.key || (shortcut.where != nullptr && shortcut.where != focus)) continue;
             return MeantKey{known.key, shortcut.button == nullptr || shortcut.button->Repeats()};

@@ -208,14 +208,8 @@ class ModifyProcedure : public Form, private RowsObserver {
 
     // What stands in the boxes of a waypoint.
     struct Held {
-        struct Axis {
-            std::string degrees;
-            std::string minutes;
-            bool positive = false;
-            friend bool operator==(const Axis&, const Axis&) = default;
-        };
-        Axis latitude;
-        Axis longitude;
+        AxisEntry latitude;
+        AxisEntry longitude;
         std::vector<std::string> texts{};
         std::vector<bool> options{};
         friend bool operator==(const Held&, const Held&) = default;

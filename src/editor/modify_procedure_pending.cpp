@@ -8,8 +8,8 @@ namespace tarvex {
 
 ModifyProcedure::Held ModifyProcedure::HeldByBoxes() const {
     const auto axis = [](const CoordinateGroup& group) {
-        return Held::Axis{std::string(RightTrim(group.degrees.Text())),
-                          std::string(RightTrim(group.minutes.Text())), group.positive.Value()};
+        return AxisEntry{std::string(RightTrim(group.degrees.Text())),
+                         std::string(RightTrim(group.minutes.Text())), group.negative.Value()};
     };
     Held held{.latitude = axis(Latitude), .longitude = axis(Longitude)};
     for (const TextBox* box : {&FixNameText, &NAVIDText, &FreqText, &Alt1Text, &Alt2Text, &AirspeedText}) {

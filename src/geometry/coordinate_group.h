@@ -8,6 +8,15 @@
 
 namespace tarvex {
 
+// What the controls of one axis hold.
+struct AxisEntry {
+    std::string degrees;
+    std::string minutes;
+    bool negative = false;  // south or west
+
+    friend bool operator==(const AxisEntry&, const AxisEntry&) = default;
+};
+
 // The controls of one axis of a position: boxes for the magnitude in whole degrees and decimal minutes, and
 // the hemisphere, of which one option is selected.
 struct CoordinateGroup {
@@ -22,11 +31,14 @@ struct CoordinateGroup {
     std::string_view MinutesComplaint() const;
 
     void Fill(std::string_view degreesText, std::string_view minutesText, bool isNegative) const;
+    void Fill(const AxisEntry& entry) const { Fill(entry.degrees, entry.minutes, entry.negative); }
+    AxisEntry Entry() const { return {degrees.Text(), minutes.Text(), negative.Value()}; }
     // The text of the degrees with "-" in front for the south and the west.
     std::string SignedDegrees() const;
     bool IsFilled() const { return !degrees.Text().empty() || !minutes.Text().empty(); }
     // The magnitude in decimal degrees, by the numbers that the boxes begin with.
     double Magnitude() const;
+    // The same with its sign: south and west are negative.
     double Coordinate() const { return negative.Value() ? -Magnitude() : Magnitude(); }
 };
 

@@ -75,13 +75,6 @@ std::vector<Shortcut> PositionBoxes::Shortcuts() {
     return keys;
 }
 
-PositionBoxes::Held PositionBoxes::WhatBoxesHold() const {
-    return {{latitude_.degrees.Text(), latitude_.minutes.Text(), longitude_.degrees.Text(),
-             longitude_.minutes.Text()},
-            latitude_.negative.Value(),
-            longitude_.negative.Value()};
-}
-
 // Behind it both axes count as gone through by the user, since the boxes of their minutes are visited. A box
 // elsewhere whose rule keeps the focus keeps the position out.
 bool PositionBoxes::Take(std::string_view text) {
@@ -104,13 +97,12 @@ bool PositionBoxes::Take(std::string_view text) {
 
 // A box that was left half filled has the focus again, and with it its rule.
 void PositionBoxes::TakeBack() {
-    const auto [before, after, from] = *pasted_;
-    from.SetFocus();
-    if (!from.HasFocus()) return;
+    const Pasted pasted = *pasted_;
+    pasted.from.SetFocus();
+    if (!pasted.from.HasFocus()) return;
     pasted_.reset();
-    const auto& [latitudeDegrees, latitudeMinutes, longitudeDegrees, longitudeMinutes] = before.texts;
-    latitude_.Fill(latitudeDegrees, latitudeMinutes, before.south);
-    longitude_.Fill(longitudeDegrees, longitudeMinutes, before.west);
+    latitude_.Fill(pasted.before.latitude);
+    longitude_.Fill(pasted.before.longitude);
 }
 
 void PositionBoxes::Paste() {

@@ -3,7 +3,6 @@
 #include <array>
 #include <functional>
 #include <optional>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -35,9 +34,8 @@ class PositionBoxes {
     using BoxList = std::array<TextBox*, 4>;
 
     struct Held {
-        std::array<std::string, 4> texts;
-        bool south = false;
-        bool west = false;
+        AxisEntry latitude;
+        AxisEntry longitude;
 
         friend bool operator==(const Held&, const Held&) = default;
     };
@@ -50,7 +48,7 @@ class PositionBoxes {
     BoxList Boxes() const {
         return {&latitude_.degrees, &latitude_.minutes, &longitude_.degrees, &longitude_.minutes};
     }
-    Held WhatBoxesHold() const;
+    Held WhatBoxesHold() const { return {latitude_.Entry(), longitude_.Entry()}; }
     // False for a text that is no position, behind which nothing has changed.
     bool Take(std::string_view text);
     void TakeBack();

@@ -82,4 +82,9 @@ constexpr std::string_view NameOf(ShortcutKey key) {
         ->name;
 }
 
+// The keys that a box with the focus takes for its own typing first, on every form.
+constexpr bool UndoesOrRedoes(ShortcutKey key) {
+    return key == ShortcutKey::CtrlZ || key == ShortcutKey::CtrlY || key == ShortcutKey::CtrlShiftZ;
+}
+
 }  // namespace tarvex

@@ -49,10 +49,10 @@ void RunEntry(const std::vector<MenuEntry>& menu, int index) {
 // What the key does to the typing in the box that has the focus; empty where it is not for that.
 std::function<void()> Retyping(Control* focused, ShortcutKey key) {
     auto* box = dynamic_cast<TextBox*>(focused);
-    if (box == nullptr) return {};
-    if (key == ShortcutKey::CtrlZ && box->CanUndoTyping()) return [box] { box->UndoTyping(); };
-    const bool again = key == ShortcutKey::CtrlY || key == ShortcutKey::CtrlShiftZ;
-    if (again && box->CanRedoTyping()) return [box] { box->RedoTyping(); };
+    if (box == nullptr || !UndoesOrRedoes(key)) return {};
+    const bool undo = key == ShortcutKey::CtrlZ;
+    if (undo && box->CanUndoTyping()) return [box] { box->UndoTyping(); };
+    if (!undo && box->CanRedoTyping()) return [box] { box->RedoTyping(); };
     return {};
 }
 

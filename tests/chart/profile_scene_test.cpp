@@ -109,8 +109,13 @@ TEST_F(ProfileSceneTest, AnElevationStandsClearOfTheClimbBehindIt) {
     EXPECT_LT(line, elevation.y - 5.5) << "above the words";
     EXPECT_LT(elevation.x, from.x + 40);
 
-    Draw(Approach());
+    Route high = Approach();
+    Draw(high);
     EXPECT_EQ(Find("elev 126")->at.x, SymbolOf(4)->at.x + 12);
+    high.points.back().altitude = {Kind::At, 13325, 13325};
+    Draw(high);
+    EXPECT_LE(Find("elev 13325")->at.x + EvenLetters().Width("elev 13325", 11, false), 900)
+        << "in the picture";
 }
 
 TEST_F(ProfileSceneTest, WhateverTheRowsHoldTheDrawingIsFinite) {
